@@ -16,8 +16,7 @@ int dvc_pnl_ceh_contents_hdl_build_key(dvc_pnl_cmm_key& key, const unsigned long
   for (unsigned i = 0; i < size; ++i) {
     int ret = key.dvc_pnl_cmm_add_key(node_name[i]);
     if (ret != DVC_PNL_CMM_OK) {
-      CEH_ERR("ret = %d.", ret);
-      CEH_ERR("dvc_pnl_cmm_key::dvc_pnl_cmm_add_key ret_code = %d", DVC_PNL_CEH_RET_PLATFORM);
+      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_key::dvc_pnl_cmm_add_key");
       return DVC_PNL_CEH_RET_PLATFORM;
     }
   }
@@ -32,8 +31,7 @@ void dvc_pnl_ceh_contents_hdl_set_key(dvc_pnl_cmm_key& key, unsigned long* node_
   for (const unsigned long* p = node_name; !dvc_pnl_ceh_is_key_end(*p); ++p) {
     int ret = key.dvc_pnl_cmm_add_key(*p);
     if (ret != DVC_PNL_CMM_OK) {
-      CEH_ERR("ret = %d.", ret);
-      CEH_ERR("dvc_pnl_cmm_key::dvc_pnl_cmm_add_key ret_code = %d", DVC_PNL_CEH_RET_PLATFORM);
+      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_key::dvc_pnl_cmm_add_key");
       return;
     }
   }
@@ -42,24 +40,21 @@ void dvc_pnl_ceh_contents_hdl_set_key(dvc_pnl_cmm_key& key, unsigned long* node_
 void dvc_pnl_ceh_contents_hdl_add_key(dvc_pnl_cmm_key& key, unsigned long node) {
   int ret = key.dvc_pnl_cmm_add_key(node);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_ERR("ret = %d.", ret);
-    CEH_ERR("dvc_pnl_cmm_key::dvc_pnl_cmm_add_key ret_code = %d", DVC_PNL_CEH_RET_PLATFORM);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_key::dvc_pnl_cmm_add_key");
   }
 }
 
 void dvc_pnl_ceh_contents_hdl_clear_key(dvc_pnl_cmm_key& key) {
   int ret = key.dvc_pnl_cmm_clear();
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_ERR("ret = %d.", ret);
-    CEH_ERR("dvc_pnl_cmm_key::dvc_pnl_cmm_clear ret_code = %d", DVC_PNL_CEH_RET_PLATFORM);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_key::dvc_pnl_cmm_clear");
   }
 }
 
 void dvc_pnl_ceh_contents_hdl_copy_key(dvc_pnl_cmm_key source, dvc_pnl_cmm_key& target) {
   int ret = target.dvc_pnl_cmm_copy(source);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_ERR("ret = %d.", ret);
-    CEH_ERR("dvc_pnl_cmm_key::dvc_pnl_cmm_copy ret_code = %d", DVC_PNL_CEH_RET_PLATFORM);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_key::dvc_pnl_cmm_copy");
   }
 }
 

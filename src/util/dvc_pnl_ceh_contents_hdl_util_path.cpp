@@ -8,13 +8,6 @@
 #include "util/dvc_pnl_ceh_contents_hdl_util_values.h"
 #include "util/dvc_pnl_ceh_trace.h"
 
-// A failed platform call: its own code first, then the call's name with the code it maps to.
-#define CEH_PLATFORM_FAILED(call, ret)                                        \
-  do {                                                                        \
-    CEH_ERR("ret = %d.", (ret));                                              \
-    CEH_ERR("%s ret_code = %d", (call), ::orvanta::DVC_PNL_CEH_RET_PLATFORM); \
-  } while (0)
-
 namespace orvanta {
 
 namespace {
@@ -131,7 +124,7 @@ int read_entry(const unsigned long* node_name, unsigned nsize, const dvc_pnl_cmm
   ret = Read::read(src, key, tmp);
   Read::clear(value);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED(Read::call, ret);
+    CEH_PLATFORM_FAIL(ret, Read::call);
     return DVC_PNL_CEH_RET_PLATFORM;
   }
   return Read::finish(tmp, from_copy, value);
@@ -166,7 +159,7 @@ int replace_leaf(dvc_pnl_cmm_valueset& set, const dvc_pnl_cmm_key& key,
                  const dvc_pnl_cmm_value& value, NAME_SPACE_NODE_TYPE type) {
   int ret = set.dvc_pnl_cmm_remove_value(key);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_remove_value", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_remove_value");
     return DVC_PNL_CEH_RET_PLATFORM;
   }
   switch (type) {
@@ -174,12 +167,12 @@ int replace_leaf(dvc_pnl_cmm_valueset& set, const dvc_pnl_cmm_key& key,
       long v = 0;
       ret = value.dvc_pnl_cmm_get_int(v);
       if (ret != DVC_PNL_CMM_OK) {
-        CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_get_int", ret);
+        CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_get_int");
         return DVC_PNL_CEH_RET_PLATFORM;
       }
       ret = set.dvc_pnl_cmm_set_int(key, v);
       if (ret != DVC_PNL_CMM_OK) {
-        CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_int", ret);
+        CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_int");
         return DVC_PNL_CEH_RET_PLATFORM;
       }
       return DVC_PNL_CEH_RET_OK;
@@ -188,12 +181,12 @@ int replace_leaf(dvc_pnl_cmm_valueset& set, const dvc_pnl_cmm_key& key,
       const char* v = nullptr;
       ret = value.dvc_pnl_cmm_get_string(v);
       if (ret != DVC_PNL_CMM_OK) {
-        CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_get_string", ret);
+        CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_get_string");
         return DVC_PNL_CEH_RET_PLATFORM;
       }
       ret = set.dvc_pnl_cmm_set_string(key, v);
       if (ret != DVC_PNL_CMM_OK) {
-        CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_string", ret);
+        CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_string");
         return DVC_PNL_CEH_RET_PLATFORM;
       }
       return DVC_PNL_CEH_RET_OK;
@@ -202,12 +195,12 @@ int replace_leaf(dvc_pnl_cmm_valueset& set, const dvc_pnl_cmm_key& key,
       dvc_pnl_cmm_binary v;
       ret = value.dvc_pnl_cmm_get_binary(v);
       if (ret != DVC_PNL_CMM_OK) {
-        CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_get_binary", ret);
+        CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_get_binary");
         return DVC_PNL_CEH_RET_PLATFORM;
       }
       ret = set.dvc_pnl_cmm_set_binary(key, v);
       if (ret != DVC_PNL_CMM_OK) {
-        CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_binary", ret);
+        CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_binary");
         return DVC_PNL_CEH_RET_PLATFORM;
       }
       return DVC_PNL_CEH_RET_OK;
@@ -216,12 +209,12 @@ int replace_leaf(dvc_pnl_cmm_valueset& set, const dvc_pnl_cmm_key& key,
       dvc_pnl_cmm_valueset v;
       ret = value.dvc_pnl_cmm_get_valueset(v);
       if (ret != DVC_PNL_CMM_OK) {
-        CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_get_valueset", ret);
+        CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_get_valueset");
         return DVC_PNL_CEH_RET_PLATFORM;
       }
       ret = set.dvc_pnl_cmm_set_valueset(key, v);
       if (ret != DVC_PNL_CMM_OK) {
-        CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset", ret);
+        CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset");
         return DVC_PNL_CEH_RET_PLATFORM;
       }
       return DVC_PNL_CEH_RET_OK;
@@ -287,7 +280,7 @@ int dvc_pnl_ceh_contents_hdl_get_child_valueset(const unsigned long* node_name, 
   if (pos >= last) {
     int ret = child.dvc_pnl_cmm_copy(set);
     if (ret != DVC_PNL_CMM_OK) {
-      CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_copy", ret);
+      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_copy");
       return DVC_PNL_CEH_RET_PLATFORM;
     }
     return DVC_PNL_CEH_RET_OK;
@@ -306,7 +299,7 @@ int dvc_pnl_ceh_contents_hdl_get_child_valueset(const unsigned long* node_name, 
     dvc_pnl_cmm_valueset next;
     ret = from->dvc_pnl_cmm_get_valueset(key, next);
     if (ret != DVC_PNL_CMM_OK) {
-      CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_valueset", ret);
+      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_valueset");
       return DVC_PNL_CEH_RET_PLATFORM;
     }
     reached = std::move(next);
@@ -348,7 +341,7 @@ int dvc_pnl_ceh_contents_hdl_set_child_valueset(const unsigned long* node_name, 
   dvc_pnl_cmm_valueset child;
   ret = set.dvc_pnl_cmm_get_valueset(key, child);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_valueset", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_valueset");
     return DVC_PNL_CEH_RET_PLATFORM;
   }
   ret = dvc_pnl_ceh_contents_hdl_set_child_valueset(node_name, pos + 1, last, child, value, type);
@@ -356,12 +349,12 @@ int dvc_pnl_ceh_contents_hdl_set_child_valueset(const unsigned long* node_name, 
     return ret;
   ret = set.dvc_pnl_cmm_remove_value(key);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_remove_value", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_remove_value");
     return DVC_PNL_CEH_RET_PLATFORM;
   }
   ret = set.dvc_pnl_cmm_set_valueset(key, child);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset");
     return DVC_PNL_CEH_RET_PLATFORM;
   }
   return DVC_PNL_CEH_RET_OK;
@@ -428,7 +421,7 @@ int dvc_pnl_ceh_contents_hdl_set_int_to_valueset(const unsigned long* node_name,
       return ret;
     ret = set.dvc_pnl_cmm_set_int(key, value);
     if (ret != DVC_PNL_CMM_OK) {
-      CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_int", ret);
+      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_int");
       return DVC_PNL_CEH_RET_PLATFORM;
     }
     return DVC_PNL_CEH_RET_OK;
@@ -436,7 +429,7 @@ int dvc_pnl_ceh_contents_hdl_set_int_to_valueset(const unsigned long* node_name,
   dvc_pnl_cmm_value wrapped;
   ret = wrapped.dvc_pnl_cmm_set_int(value);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_set_int", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_int");
     return DVC_PNL_CEH_RET_PLATFORM;
   }
   return write_nested(node_name, vs_start_pos, nsize, set, wrapped, NODE_TYPE_INTEGER);
@@ -460,7 +453,7 @@ int dvc_pnl_ceh_contents_hdl_set_string_to_valueset(const unsigned long* node_na
       return ret;
     ret = set.dvc_pnl_cmm_set_string(key, value);
     if (ret != DVC_PNL_CMM_OK) {
-      CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_string", ret);
+      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_string");
       return DVC_PNL_CEH_RET_PLATFORM;
     }
     return DVC_PNL_CEH_RET_OK;
@@ -468,7 +461,7 @@ int dvc_pnl_ceh_contents_hdl_set_string_to_valueset(const unsigned long* node_na
   dvc_pnl_cmm_value wrapped;
   ret = wrapped.dvc_pnl_cmm_set_string(value);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_set_string", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_string");
     return DVC_PNL_CEH_RET_PLATFORM;
   }
   return write_nested(node_name, vs_start_pos, nsize, set, wrapped, NODE_TYPE_STRING);
@@ -489,7 +482,7 @@ int dvc_pnl_ceh_contents_hdl_set_valueset_to_valueset(const unsigned long* node_
       return ret;
     ret = set.dvc_pnl_cmm_set_valueset(key, value);
     if (ret != DVC_PNL_CMM_OK) {
-      CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset", ret);
+      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset");
       return DVC_PNL_CEH_RET_PLATFORM;
     }
     return DVC_PNL_CEH_RET_OK;
@@ -498,7 +491,7 @@ int dvc_pnl_ceh_contents_hdl_set_valueset_to_valueset(const unsigned long* node_
   dvc_pnl_cmm_value wrapped;
   ret = wrapped.dvc_pnl_cmm_set_valueset(value);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_set_valueset", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_valueset");
     return DVC_PNL_CEH_RET_PLATFORM;
   }
   return write_nested(node_name, vs_start_pos, nsize, set, wrapped, NODE_TYPE_VALUESET);

@@ -4,13 +4,6 @@
 #include "util/dvc_pnl_ceh_contents_hdl_util_values.h"
 #include "util/dvc_pnl_ceh_trace.h"
 
-// A failed platform call: its own code first, then the call's name with the code it maps to.
-#define CEH_PLATFORM_FAILED(call, ret)                                   \
-  do {                                                                   \
-    CEH_ERR("ret = %d.", (ret));                                         \
-    CEH_ERR(call " ret_code = %d", ::orvanta::DVC_PNL_CEH_RET_PLATFORM); \
-  } while (0)
-
 namespace orvanta {
 
 namespace {
@@ -38,14 +31,14 @@ bool full_node_key(const dvc_pnl_cmm_key& parent, unsigned long node, dvc_pnl_cm
 void dvc_pnl_ceh_contents_hdl_copy_value(dvc_pnl_cmm_value source, dvc_pnl_cmm_value& target) {
   int ret = target.dvc_pnl_cmm_copy(source);
   if (ret != DVC_PNL_CMM_OK)
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_copy", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_copy");
 }
 
 void dvc_pnl_ceh_contents_hdl_copy_valueset(dvc_pnl_cmm_valueset source,
                                             dvc_pnl_cmm_valueset& target) {
   int ret = target.dvc_pnl_cmm_copy(source);
   if (ret != DVC_PNL_CMM_OK)
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_copy", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_copy");
 }
 
 // ---- single values ----
@@ -55,7 +48,7 @@ void dvc_pnl_ceh_contents_hdl_get_int_from_value(dvc_pnl_cmm_value& value, long&
   long tmp = 0;
   int ret = value.dvc_pnl_cmm_get_int(tmp);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_get_int", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_get_int");
     return;
   }
   out = tmp;
@@ -64,14 +57,14 @@ void dvc_pnl_ceh_contents_hdl_get_int_from_value(dvc_pnl_cmm_value& value, long&
 void dvc_pnl_ceh_contents_hdl_set_int_to_value(dvc_pnl_cmm_value& value, long in) {
   int ret = value.dvc_pnl_cmm_set_int(in);
   if (ret != DVC_PNL_CMM_OK)
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_set_int", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_int");
 }
 
 void dvc_pnl_ceh_contents_hdl_get_string_from_value(dvc_pnl_cmm_value& value, const char*& out) {
   const char* tmp = nullptr;
   int ret = value.dvc_pnl_cmm_get_string(tmp);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_get_string", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_get_string");
     return;
   }
   out = tmp;
@@ -84,7 +77,7 @@ void dvc_pnl_ceh_contents_hdl_set_string_to_value(dvc_pnl_cmm_value& value, cons
   }
   int ret = value.dvc_pnl_cmm_set_string(in);
   if (ret != DVC_PNL_CMM_OK)
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_set_string", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_string");
 }
 
 void dvc_pnl_ceh_contents_hdl_get_valueset_from_value(dvc_pnl_cmm_value& value,
@@ -92,7 +85,7 @@ void dvc_pnl_ceh_contents_hdl_get_valueset_from_value(dvc_pnl_cmm_value& value,
   dvc_pnl_cmm_valueset tmp;
   int ret = value.dvc_pnl_cmm_get_valueset(tmp);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_get_valueset", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_get_valueset");
     return;
   }
   out = std::move(tmp);
@@ -102,7 +95,7 @@ void dvc_pnl_ceh_contents_hdl_set_valueset_to_value(dvc_pnl_cmm_value& value,
                                                     const dvc_pnl_cmm_valueset& in) {
   int ret = value.dvc_pnl_cmm_set_valueset(in);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_value::dvc_pnl_cmm_set_valueset", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_valueset");
   }
 }
 
@@ -113,7 +106,7 @@ void dvc_pnl_ceh_contents_hdl_get_int_from_valueset(dvc_pnl_cmm_valueset& set, d
   long tmp = 0;
   int ret = set.dvc_pnl_cmm_get_int(key, tmp);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_int", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_int");
     return;
   }
   out = tmp;
@@ -123,7 +116,7 @@ void dvc_pnl_ceh_contents_hdl_set_int_to_valueset(dvc_pnl_cmm_valueset& set, dvc
                                                   long in) {
   int ret = set.dvc_pnl_cmm_set_int(key, in);
   if (ret != DVC_PNL_CMM_OK)
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_int", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_int");
 }
 
 void dvc_pnl_ceh_contents_hdl_get_string_from_valueset(dvc_pnl_cmm_valueset& set,
@@ -131,7 +124,7 @@ void dvc_pnl_ceh_contents_hdl_get_string_from_valueset(dvc_pnl_cmm_valueset& set
   const char* tmp = nullptr;
   int ret = set.dvc_pnl_cmm_get_string(key, tmp);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_string", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_string");
     return;
   }
   out = tmp;
@@ -145,7 +138,7 @@ void dvc_pnl_ceh_contents_hdl_set_string_to_valueset(dvc_pnl_cmm_valueset& set, 
   }
   int ret = set.dvc_pnl_cmm_set_string(key, in);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_string", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_string");
   }
 }
 
@@ -155,7 +148,7 @@ void dvc_pnl_ceh_contents_hdl_get_valueset_from_valueset(dvc_pnl_cmm_valueset& s
   dvc_pnl_cmm_valueset tmp;
   int ret = set.dvc_pnl_cmm_get_valueset(key, tmp);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_valueset", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_get_valueset");
     return;
   }
   out = std::move(tmp);
@@ -166,7 +159,7 @@ void dvc_pnl_ceh_contents_hdl_set_valueset_to_valueset(dvc_pnl_cmm_valueset& set
                                                        const dvc_pnl_cmm_valueset& in) {
   int ret = set.dvc_pnl_cmm_set_valueset(key, in);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset");
   }
 }
 
@@ -174,7 +167,7 @@ void dvc_pnl_ceh_contents_hdl_set_binary_to_valueset(dvc_pnl_cmm_valueset& set, 
                                                      dvc_pnl_cmm_binary in) {
   int ret = set.dvc_pnl_cmm_set_binary(key, in);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAILED("dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_binary", ret);
+    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_binary");
   }
 }
 
