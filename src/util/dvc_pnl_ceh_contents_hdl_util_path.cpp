@@ -407,71 +407,15 @@ int dvc_pnl_ceh_contents_hdl_get_valueset_from_valueset(const unsigned long* nod
 
 // ---- path writes ----
 
-int dvc_pnl_ceh_contents_hdl_set_int_to_valueset(const unsigned long* node_name, int vs_start_pos,
-                                                 unsigned nsize, dvc_pnl_cmm_valueset& set,
-                                                 const long& value) {
-  const char* op = "dvc_pnl_ceh_contents_hdl_set_int_to_valueset";
-  int ret = check_write_arguments(op, node_name, vs_start_pos);
-  if (ret != DVC_PNL_CEH_RET_OK)
-    return ret;
-  if (vs_start_pos == 0) {
-    dvc_pnl_cmm_key key;
-    ret = direct_key(node_name, nsize, key);
-    if (ret != DVC_PNL_CEH_RET_OK)
-      return ret;
-    ret = set.dvc_pnl_cmm_set_int(key, value);
-    if (ret != DVC_PNL_CMM_OK) {
-      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_int");
-      return DVC_PNL_CEH_RET_PLATFORM;
-    }
-    return DVC_PNL_CEH_RET_OK;
-  }
-  dvc_pnl_cmm_value wrapped;
-  ret = wrapped.dvc_pnl_cmm_set_int(value);
-  if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_int");
-    return DVC_PNL_CEH_RET_PLATFORM;
-  }
-  return write_nested(node_name, vs_start_pos, nsize, set, wrapped, NODE_TYPE_INTEGER);
-}
+namespace {
 
-int dvc_pnl_ceh_contents_hdl_set_string_to_valueset(const unsigned long* node_name,
-                                                    int vs_start_pos, unsigned nsize,
-                                                    dvc_pnl_cmm_valueset& set, const char* value) {
-  const char* op = "dvc_pnl_ceh_contents_hdl_set_string_to_valueset";
-  int ret = check_write_arguments(op, node_name, vs_start_pos);
-  if (ret != DVC_PNL_CEH_RET_OK)
-    return ret;
-  if (value == nullptr) {
-    CEH_ERR("%s value is NULL", op);
-    return DVC_PNL_CEH_RET_BAD_ARGUMENT;
-  }
-  if (vs_start_pos == 0) {
-    dvc_pnl_cmm_key key;
-    ret = direct_key(node_name, nsize, key);
-    if (ret != DVC_PNL_CEH_RET_OK)
-      return ret;
-    ret = set.dvc_pnl_cmm_set_string(key, value);
-    if (ret != DVC_PNL_CMM_OK) {
-      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_string");
-      return DVC_PNL_CEH_RET_PLATFORM;
-    }
-    return DVC_PNL_CEH_RET_OK;
-  }
-  dvc_pnl_cmm_value wrapped;
-  ret = wrapped.dvc_pnl_cmm_set_string(value);
-  if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_string");
-    return DVC_PNL_CEH_RET_PLATFORM;
-  }
-  return write_nested(node_name, vs_start_pos, nsize, set, wrapped, NODE_TYPE_STRING);
-}
-
-int dvc_pnl_ceh_contents_hdl_set_valueset_to_valueset(const unsigned long* node_name,
-                                                      int vs_start_pos, unsigned nsize,
-                                                      dvc_pnl_cmm_valueset& set,
-                                                      const dvc_pnl_cmm_valueset& value) {
-  const char* op = "dvc_pnl_ceh_contents_hdl_set_valueset_to_valueset";
+// Writes `value` under the path: directly for `vs_start_pos` 0, otherwise wrapped in a value and
+// stored through the write-back walk, so every level on the way must exist already.
+template <typename In, typename SetEntry, typename SetValue>
+int write_path(const char* op, const unsigned long* node_name, int vs_start_pos, unsigned nsize,
+               dvc_pnl_cmm_valueset& set, const In& value, NAME_SPACE_NODE_TYPE type,
+               SetEntry set_entry, const char* set_entry_name, SetValue set_value,
+               const char* set_value_name) {
   int ret = check_write_arguments(op, node_name, vs_start_pos);
   if (ret != DVC_PNL_CEH_RET_OK)
     return ret;
@@ -480,21 +424,72 @@ int dvc_pnl_ceh_contents_hdl_set_valueset_to_valueset(const unsigned long* node_
     ret = direct_key(node_name, nsize, key);
     if (ret != DVC_PNL_CEH_RET_OK)
       return ret;
-    ret = set.dvc_pnl_cmm_set_valueset(key, value);
+    ret = set_entry(set, key, value);
     if (ret != DVC_PNL_CMM_OK) {
-      CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset");
+      CEH_PLATFORM_FAIL(ret, set_entry_name);
       return DVC_PNL_CEH_RET_PLATFORM;
     }
     return DVC_PNL_CEH_RET_OK;
   }
   // The wrapped value holds its own copy, so `value` may even be `set` itself.
   dvc_pnl_cmm_value wrapped;
-  ret = wrapped.dvc_pnl_cmm_set_valueset(value);
+  ret = set_value(wrapped, value);
   if (ret != DVC_PNL_CMM_OK) {
-    CEH_PLATFORM_FAIL(ret, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_valueset");
+    CEH_PLATFORM_FAIL(ret, set_value_name);
     return DVC_PNL_CEH_RET_PLATFORM;
   }
-  return write_nested(node_name, vs_start_pos, nsize, set, wrapped, NODE_TYPE_VALUESET);
+  return write_nested(node_name, vs_start_pos, nsize, set, wrapped, type);
+}
+
+}  // namespace
+
+int dvc_pnl_ceh_contents_hdl_set_int_to_valueset(const unsigned long* node_name, int vs_start_pos,
+                                                 unsigned nsize, dvc_pnl_cmm_valueset& set,
+                                                 const long& value) {
+  return write_path(
+      "dvc_pnl_ceh_contents_hdl_set_int_to_valueset", node_name, vs_start_pos, nsize, set, value,
+      NODE_TYPE_INTEGER,
+      [](dvc_pnl_cmm_valueset& s, const dvc_pnl_cmm_key& k, long v) {
+        return s.dvc_pnl_cmm_set_int(k, v);
+      },
+      "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_int",
+      [](dvc_pnl_cmm_value& w, long v) { return w.dvc_pnl_cmm_set_int(v); },
+      "dvc_pnl_cmm_value::dvc_pnl_cmm_set_int");
+}
+
+int dvc_pnl_ceh_contents_hdl_set_string_to_valueset(const unsigned long* node_name,
+                                                    int vs_start_pos, unsigned nsize,
+                                                    dvc_pnl_cmm_valueset& set, const char* value) {
+  const char* op = "dvc_pnl_ceh_contents_hdl_set_string_to_valueset";
+  if (node_name != nullptr && vs_start_pos >= 0 && value == nullptr) {
+    CEH_ERR("%s value is NULL", op);
+    return DVC_PNL_CEH_RET_BAD_ARGUMENT;
+  }
+  return write_path(
+      op, node_name, vs_start_pos, nsize, set, value, NODE_TYPE_STRING,
+      [](dvc_pnl_cmm_valueset& s, const dvc_pnl_cmm_key& k, const char* v) {
+        return s.dvc_pnl_cmm_set_string(k, v);
+      },
+      "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_string",
+      [](dvc_pnl_cmm_value& w, const char* v) { return w.dvc_pnl_cmm_set_string(v); },
+      "dvc_pnl_cmm_value::dvc_pnl_cmm_set_string");
+}
+
+int dvc_pnl_ceh_contents_hdl_set_valueset_to_valueset(const unsigned long* node_name,
+                                                      int vs_start_pos, unsigned nsize,
+                                                      dvc_pnl_cmm_valueset& set,
+                                                      const dvc_pnl_cmm_valueset& value) {
+  return write_path(
+      "dvc_pnl_ceh_contents_hdl_set_valueset_to_valueset", node_name, vs_start_pos, nsize, set,
+      value, NODE_TYPE_VALUESET,
+      [](dvc_pnl_cmm_valueset& s, const dvc_pnl_cmm_key& k, const dvc_pnl_cmm_valueset& v) {
+        return s.dvc_pnl_cmm_set_valueset(k, v);
+      },
+      "dvc_pnl_cmm_valueset::dvc_pnl_cmm_set_valueset",
+      [](dvc_pnl_cmm_value& w, const dvc_pnl_cmm_valueset& v) {
+        return w.dvc_pnl_cmm_set_valueset(v);
+      },
+      "dvc_pnl_cmm_value::dvc_pnl_cmm_set_valueset");
 }
 
 }  // namespace orvanta

@@ -10,10 +10,13 @@
 #include "orvanta/host/host_data_manager.h"
 #include "orvanta/host/page_lifecycle.h"
 #include "orvanta/host/trace_sink.h"
+#include "support/trace_expect.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util.h"
 
 namespace orvanta {
 namespace {
+
+using test::traced;
 
 constexpr auto kPage = static_cast<DVC_PNL_CEH_CONTENTS_ID>(12);
 
@@ -31,7 +34,6 @@ class DmAccess : public ::testing::Test {
     host::trace_sink::instance().clear();
   }
   void TearDown() override { host::host_data_manager::instance().reset(); }
-  bool traced(const std::string& m) { return host::trace_sink::instance().has_message(m); }
   std::size_t trace_count() { return host::trace_sink::instance().lines().size(); }
 };
 

@@ -6,6 +6,7 @@
 
 #include "orvanta/host/trace_sink.h"
 #include "orvanta/host/value_faults.h"
+#include "support/trace_expect.h"
 #include "support/valueset_builder.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_values.h"
 
@@ -20,6 +21,8 @@ using test::dump;
 using test::key_of;
 using test::make_valueset;
 using test::sets_equal;
+using test::trace_dump;
+using test::traced;
 
 // Every fixture starts with an empty trace and no armed failure, and disarms what it armed.
 class util_test : public ::testing::Test {
@@ -29,16 +32,6 @@ class util_test : public ::testing::Test {
     trace_sink::instance().clear();
   }
   void TearDown() override { clear_value_faults(); }
-
-  static bool traced(const std::string& message) {
-    return trace_sink::instance().has_message(message);
-  }
-  static std::string trace_dump() {
-    std::string out;
-    for (const auto& m : trace_sink::instance().messages())
-      out += m + "\n";
-    return out;
-  }
 };
 
 // ---------------------------------------------------------------- build_key, set_key & co.

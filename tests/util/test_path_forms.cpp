@@ -6,6 +6,7 @@
 
 #include "orvanta/host/trace_sink.h"
 #include "orvanta/host/value_faults.h"
+#include "support/trace_expect.h"
 #include "support/valueset_builder.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_values.h"
 
@@ -23,6 +24,8 @@ using test::key_of;
 using test::make_valueset;
 using test::nodes_of;
 using test::sets_equal;
+using test::trace_dump;
+using test::traced;
 
 constexpr unsigned long END = DVC_PNL_CEH_KEY_END;
 
@@ -69,15 +72,6 @@ class path_test : public ::testing::Test {
   }
   void TearDown() override { clear_value_faults(); }
 
-  static bool traced(const std::string& message) {
-    return trace_sink::instance().has_message(message);
-  }
-  static std::string trace_dump() {
-    std::string out;
-    for (const auto& m : trace_sink::instance().messages())
-      out += m + "\n";
-    return out;
-  }
   bool response_unchanged() const { return response_.equals(make_valueset(user_list_entries())); }
 
   dvc_pnl_cmm_valueset response_;
