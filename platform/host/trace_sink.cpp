@@ -15,6 +15,7 @@ namespace {
 std::mutex store_lock;
 std::deque<trace_line> store;
 bool echo = false;
+unsigned long limit = ~0UL;
 }  // namespace
 
 trace_sink& trace_sink::instance() {
@@ -33,12 +34,16 @@ std::string trace_message_of(const std::string& line) {
   return line.substr(pos);
 }
 
-void trace_sink::add(unsigned long /*module*/, unsigned long /*sub_module*/, unsigned long level,
+void trace_sink::add(unsigned long module, unsigned long sub_module, unsigned long level,
                      std::string text) {
   std::lock_guard<std::mutex> guard(store_lock);
+  if (level > limit)
+    return;
   if (echo)
     std::fprintf(stderr, "[trace %lu] %s\n", level, text.c_str());
   trace_line l;
+  l.module = module;
+  l.sub_module = sub_module;
   l.level = level;
   l.message = trace_message_of(text);
   l.text = std::move(text);
@@ -74,6 +79,16 @@ std::size_t trace_sink::count_message(const std::string& message) const {
 void trace_sink::clear() {
   std::lock_guard<std::mutex> guard(store_lock);
   store.clear();
+}
+
+void trace_sink::set_level_limit(unsigned long max_level) {
+  std::lock_guard<std::mutex> guard(store_lock);
+  limit = max_level;
+}
+
+unsigned long trace_sink::level_limit() const {
+  std::lock_guard<std::mutex> guard(store_lock);
+  return limit;
 }
 
 void trace_sink::set_echo(bool on) {

@@ -8,6 +8,8 @@
 namespace orvanta::host {
 
 struct trace_line {
+  unsigned long module = 0;
+  unsigned long sub_module = 0;
   unsigned long level = 0;
   std::string text;     // the whole formatted line
   std::string message;  // the text after the "<<function()>>" prefix, or the whole line
@@ -25,6 +27,11 @@ class trace_sink {
   // Number of kept lines whose message equals `message`.
   std::size_t count_message(const std::string& message) const;
   void clear();
+
+  // Keeps only lines whose level is at most `max_level` (0 errors only, 2 everything the panel
+  // traces); lines above it are dropped as they arrive.
+  void set_level_limit(unsigned long max_level);
+  unsigned long level_limit() const;
 
   // Echo every line to stderr as it arrives (interactive use).
   void set_echo(bool on);

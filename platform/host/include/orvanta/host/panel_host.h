@@ -1,0 +1,159 @@
+// Host framework around the panel library: clock, event pump, pages, GUI and device records.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "orvanta/platform/dvc_pnl_ceh_contents_interface.h"
+#include "orvanta/platform/dvc_pnl_psm_page_stack_matrix.h"
+#include "orvanta/platform/dvu_pnl_dec_controllers.h"
+#include "orvanta/platform/dvu_pnl_evd_event_dispatcher.h"
+#include "orvanta/platform/dvu_pnl_gcp_components.h"
+
+namespace orvanta::host {
+
+// ---- clock ----
+
+// Time of the host. Under the virtual clock (the default) time moves only by advance(); timers
+// due on the way expire in order of due time, then of start, each running its callback (which
+// posts an event) with the clock standing at its due time. Timers are one-shot. A timer started
+// with 0 ms is due at once but runs only in the next advance() or run_due(), never inside
+// start(); one started with 0 ms by a callback during an expiry pass waits for the pass after,
+// so a 0 ms timer that restarts itself cannot stall time.
+class host_clock {
+ public:
+  static host_clock& instance();
+  unsigned long now_ms() const;
+  // Moves time forward by `ms`, expiring the timers that fall due on the way.
+  void advance(unsigned long ms);
+  // Expires timers that are due now (0 ms timers included) without moving time.
+  void run_due();
+  // Number of timers started and not yet expired or stopped.
+  std::size_t pending() const;
+  // Back to 0 with no timers (a fresh run).
+  void reset();
+};
+
+// ---- events ----
+
+// Delivers posted events, oldest first, through the dispatcher's subscriptions until the queue
+// is empty (events posted during delivery come in the same pump, after); answers the number
+// delivered. Posting may happen on any thread; delivery runs on the caller's.
+std::size_t pump();
+// Events posted and not yet delivered.
+std::size_t posted_count();
+// Delivers one event now to every handler subscribed to its id, once each however often it is
+// subscribed and in the order of subscription, then to the after-event handlers. A handler that
+// an earlier one unsubscribes during this delivery does not hear the event.
+void deliver(const dvc_pnl_evh_panel_event& event);
+// How often `handler` is subscribed to `event_id`.
+int subscription_count(int event_id, const dvu_pnl_evd_event_handler* handler);
+// The ids `handler` is subscribed to, in the order of their first subscription.
+std::vector<int> subscriptions_of(const dvu_pnl_evd_event_handler* handler);
+
+// ---- pages ----
+
+// Makes the contents of an id; the runtime wires the library's factory in here. Answering
+// nullptr makes the open fail. The creator stays set across reset(): it is wiring, not state.
+using contents_creator =
+    std::function<dvc_pnl_ceh_contents_interface*(int contents_id, dvu_pnl_gcp_components* gui)>;
+void set_contents_creator(contents_creator creator);
+
+// A page as the host page stack holds it.
+struct page_record {
+  int group;
+  int function;
+  int state;
+  int contents_id;
+  unsigned order;
+  dvc_pnl_ceh_contents_interface* contents;
+};
+// Open pages of `function`, bottom first (the window order: by group, then order, then the
+// sequence of opening).
+std::vector<page_record> pages_of(int function);
+// Every call the page stack received, for tests: "open g f s id order", "close g f s id",
+// "clear g f s", "change f".
+const std::vector<std::string>& page_stack_log();
+
+// ---- GUI ----
+
+// The host components of a page. Until layouts exist, tests set what the parts answer.
+struct gui_script {
+  bool draw_changes = true;          // whether a draw reports a changed image
+  DVU_PNL_GCP_NOTIFY next_notify{};  // what dvu_pnl_gcp_on_key reports, until changed
+  bool has_cursor = false;
+  std::array<int, 4> cursor_rect{};
+  std::vector<int> keys_seen;  // event ids handed to dvu_pnl_gcp_on_key
+  int draws = 0;               // calls of dvu_pnl_gcp_draw
+};
+// The script of the components of the open page `contents_id` of `function`, or nullptr.
+gui_script* gui_of(int contents_id, int function);
+// Adds (or replaces) an icon part with `part_id` showing `icon` to those components. Throws
+// std::invalid_argument when no such page is open.
+void add_icon_part(int contents_id, int function, int part_id, int icon);
+
+// The LCD frame: 128x64 pixels, row-major, 16 bytes a row, most significant bit leftmost,
+// 1 = dark.
+inline constexpr int kFrameWidth = 128;
+inline constexpr int kFrameHeight = 64;
+inline constexpr int kFrameStride = 16;
+inline constexpr int kFrameBytes = 1024;
+// Whether pixel (x, y) of `img` is dark; false outside the frame.
+bool frame_pixel(const unsigned char* img, int x, int y);
+
+// What a host draw renders until real layouts exist: a one-pixel border, the contents id as a
+// band of 32 blocks (most significant bit first) and under it one such band per icon part, in
+// ascending part id, holding its icon. A block is kBandBitWidth x kBandHeight pixels, dark for a
+// set bit; block i starts at x = kBandLeft + i * kBandBitPitch.
+inline constexpr int kBandLeft = 2;
+inline constexpr int kBandBitPitch = 3;
+inline constexpr int kBandBitWidth = 2;
+inline constexpr int kBandHeight = 4;
+inline constexpr int kIdBandTop = 2;
+inline constexpr int kIconBandTop = 8;  // each further band starts kBandHeight + 1 rows lower
+
+// USB keyboard events carry their key code in the source value set under (0, kKeyboardCodeNode),
+// and a release under (0, kKeyboardReleaseNode) with the value 1. The keyboard convertor maps
+// Enter (13) to 40, Escape (27) to 61, Backspace (8) to 38, '0'..'9' to 45..54 and a release to
+// 87; other keys have no hard key.
+inline constexpr unsigned long kKeyboardCodeNode = 4166;
+inline constexpr unsigned long kKeyboardReleaseNode = 4167;
+
+// ---- devices ----
+
+struct lock_screen_frame {
+  std::array<unsigned char, 1024> image;
+  int source;
+  int exist;
+};
+struct blink_call {
+  int x, width, y, height, mode;
+};
+struct device_record {
+  std::vector<std::array<unsigned char, 1024>> frames;  // dvu_pnl_dec_set_lcd_bitmap_data
+  std::vector<lock_screen_frame> lock_screen_frames;
+  std::vector<blink_call> blinks;
+  int blink_ends = 0;
+  std::vector<int> buzzer;  // patterns in order
+  std::vector<DVU_PNL_DEC_LED_STATUS> led_calls;
+  std::vector<DVU_PNL_DEC_LED_STATUS> led_status;  // latest status per LED, in order of first set
+  std::vector<int> panel_commands;                 // thrown key events
+  bool refuse_buzzer = false;  // controllers answer 0 while set, and record nothing
+  bool refuse_lcd = false;
+  bool refuse_led = false;
+  bool refuse_key = false;
+};
+device_record& devices();
+
+// ---- all ----
+
+// A fresh host: clock at 0, no timers, no posted events, no subscriptions, no pages (pages are
+// closed without their close handlers, but their contents and components are destroyed and the
+// page lifecycle hears of each), empty page stack log, empty device records, empty data manager,
+// empty trace sink, no injected value faults, function 1.
+void reset();
+
+}  // namespace orvanta::host

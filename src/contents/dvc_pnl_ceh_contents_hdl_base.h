@@ -1,0 +1,66 @@
+// Handler base of every screen family: function ids, navigation, redraw and device helpers.
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include "contents/dvc_pnl_ceh_contents_base.h"
+
+namespace orvanta {
+
+// Result codes of the handler base.
+inline constexpr int DVC_PNL_CEH_ERR_NONE = 0;
+inline constexpr int DVC_PNL_CEH_ERR_FAILED = 3;
+inline constexpr int DVC_PNL_CEH_ERR_BAD_ARGUMENT = 10;
+
+// GUI parts the redraw looks at: the function icon and the remote panel icon.
+inline constexpr int DVC_PNL_CEH_PART_FUNCTION_ICON = 19;
+inline constexpr int DVC_PNL_CEH_PART_REMOTE_ICON = 78;
+
+class dvc_pnl_ceh_contents_hdl_base : public dvc_pnl_ceh_contents_base {
+ public:
+  dvc_pnl_ceh_contents_hdl_base(int contents_id, dvu_pnl_gcp_components* gui);
+  ~dvc_pnl_ceh_contents_hdl_base() override;
+
+  // Slots the handler base adds.
+  virtual int open_child_forced_remote(DVC_PNL_CEH_CONTENTS_ID id);
+  virtual int open_child_contents(DVC_PNL_CEH_CONTENTS_ID id);
+
+  void dvc_pnl_ceh_on_load() override {}
+  void dvc_pnl_ceh_on_close() override {}
+  void dvc_pnl_ceh_on_timer(int /*timer_id*/) override {}
+  void dvc_pnl_ceh_on_activate() override {}
+  void dvc_pnl_ceh_on_deactivate() override {}
+  void dvc_pnl_ceh_on_activate_pre() override;
+  int dvc_pnl_ceh_on_key(dvc_pnl_evh_panel_event& /*event*/) override { return 0; }
+  int dvc_pnl_ceh_on_panel_event(dvc_pnl_evh_panel_event& /*event*/) override { return 0; }
+  int dvc_pnl_ceh_on_gui_button_notify(DVU_PNL_GCP_NOTIFY* /*notify*/) override { return 0; }
+  int dvc_pnl_ceh_on_gui_list_notify(DVU_PNL_GCP_NOTIFY* /*notify*/) override { return 0; }
+  int dvc_pnl_ceh_on_gui_edit_notify(DVU_PNL_GCP_NOTIFY* /*notify*/) override { return 0; }
+
+  // Function ids.
+  int get_original_function_id() const;
+  int get_view_function_id() const;
+  int get_function_id() const;
+  int get_contents_id() const { return contents_id_; }
+
+  // Redraw: keeps the remote panel icons right, then draws.
+  void draw();
+  int set_timer(int id, int ms);
+  int kill_timer(int id);
+  int buzzer(BUZZER_PATTERN_ID pattern);
+  int back_to_parent();
+  int close_contents(DVC_PNL_CEH_CONTENTS_ID id);
+
+  // Clears the handler base's statics; for tests and the runtime.
+  static void reset_statics();
+
+ protected:
+  int saved_icon_ = 0;
+  DVC_PNL_CEH_CONTENTS_ID open_after_close_ = CID_NONE;
+
+  static std::map<int, int> child_opener_;
+  static std::vector<dvc_pnl_ceh_contents_hdl_base*> disable_sleep_and_reset_instance_;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,12 @@
+// Construction of dvc_pnl_ceh_contents_hdl_d_02_01: confirmation dialog.
+#include "screens/dialogs/dvc_pnl_ceh_contents_hdl_d_02_01.h"
+
+namespace orvanta {
+
+dvc_pnl_ceh_contents_hdl_d_02_01::dvc_pnl_ceh_contents_hdl_d_02_01(int contents_id,
+                                                                   dvu_pnl_gcp_components* gui)
+    : dvc_pnl_ceh_contents_hdl_base(contents_id, gui) {}
+
+dvc_pnl_ceh_contents_hdl_d_02_01::~dvc_pnl_ceh_contents_hdl_d_02_01() = default;
+
+}  // namespace orvanta

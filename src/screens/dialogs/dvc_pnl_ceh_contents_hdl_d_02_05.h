@@ -1,0 +1,14 @@
+// Confirmation dialog that starts a job.
+#pragma once
+
+#include "contents/dvc_pnl_ceh_contents_hdl_base.h"
+
+namespace orvanta {
+
+class dvc_pnl_ceh_contents_hdl_d_02_05 : public dvc_pnl_ceh_contents_hdl_base {
+ public:
+  dvc_pnl_ceh_contents_hdl_d_02_05(int contents_id, dvu_pnl_gcp_components* gui);
+  ~dvc_pnl_ceh_contents_hdl_d_02_05() override;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,14 @@
+// Progress or result message with a setting item.
+#pragma once
+
+#include "contents/dvc_pnl_ceh_contents_hdl_base.h"
+
+namespace orvanta {
+
+class dvc_pnl_ceh_contents_hdl_d_03_13 : public dvc_pnl_ceh_contents_hdl_base {
+ public:
+  dvc_pnl_ceh_contents_hdl_d_03_13(int contents_id, dvu_pnl_gcp_components* gui);
+  ~dvc_pnl_ceh_contents_hdl_d_03_13() override;
+};
+
+}  // namespace orvanta

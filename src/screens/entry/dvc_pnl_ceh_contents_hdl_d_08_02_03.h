@@ -1,0 +1,14 @@
+// Fax number entry on the destination screen.
+#pragma once
+
+#include "contents/dvc_pnl_ceh_contents_hdl_base.h"
+
+namespace orvanta {
+
+class dvc_pnl_ceh_contents_hdl_d_08_02_03 : public dvc_pnl_ceh_contents_hdl_base {
+ public:
+  dvc_pnl_ceh_contents_hdl_d_08_02_03(int contents_id, dvu_pnl_gcp_components* gui);
+  ~dvc_pnl_ceh_contents_hdl_d_08_02_03() override;
+};
+
+}  // namespace orvanta

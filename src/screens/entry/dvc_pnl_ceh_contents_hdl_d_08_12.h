@@ -1,0 +1,14 @@
+// Address entry of the long form.
+#pragma once
+
+#include "contents/dvc_pnl_ceh_contents_hdl_base.h"
+
+namespace orvanta {
+
+class dvc_pnl_ceh_contents_hdl_d_08_12 : public dvc_pnl_ceh_contents_hdl_base {
+ public:
+  dvc_pnl_ceh_contents_hdl_d_08_12(int contents_id, dvu_pnl_gcp_components* gui);
+  ~dvc_pnl_ceh_contents_hdl_d_08_12() override;
+};
+
+}  // namespace orvanta

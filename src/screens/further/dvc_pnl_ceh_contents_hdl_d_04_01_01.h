@@ -1,0 +1,14 @@
+// Status message screens that show the main message.
+#pragma once
+
+#include "contents/dvc_pnl_ceh_contents_hdl_base.h"
+
+namespace orvanta {
+
+class dvc_pnl_ceh_contents_hdl_d_04_01_01 : public dvc_pnl_ceh_contents_hdl_base {
+ public:
+  dvc_pnl_ceh_contents_hdl_d_04_01_01(int contents_id, dvu_pnl_gcp_components* gui);
+  ~dvc_pnl_ceh_contents_hdl_d_04_01_01() override;
+};
+
+}  // namespace orvanta

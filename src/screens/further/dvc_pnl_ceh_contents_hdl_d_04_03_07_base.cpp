@@ -1,0 +1,12 @@
+// Construction of dvc_pnl_ceh_contents_hdl_d_04_03_07: contact and user entry pages.
+#include "screens/further/dvc_pnl_ceh_contents_hdl_d_04_03_07.h"
+
+namespace orvanta {
+
+dvc_pnl_ceh_contents_hdl_d_04_03_07::dvc_pnl_ceh_contents_hdl_d_04_03_07(
+    int contents_id, dvu_pnl_gcp_components* gui)
+    : dvc_pnl_ceh_contents_hdl_base(contents_id, gui) {}
+
+dvc_pnl_ceh_contents_hdl_d_04_03_07::~dvc_pnl_ceh_contents_hdl_d_04_03_07() = default;
+
+}  // namespace orvanta

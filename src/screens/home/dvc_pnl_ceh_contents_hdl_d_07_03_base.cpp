@@ -1,0 +1,12 @@
+// Construction of dvc_pnl_ceh_contents_hdl_d_07_03: send home screen of the fax side.
+#include "screens/home/dvc_pnl_ceh_contents_hdl_d_07_03.h"
+
+namespace orvanta {
+
+dvc_pnl_ceh_contents_hdl_d_07_03::dvc_pnl_ceh_contents_hdl_d_07_03(int contents_id,
+                                                                   dvu_pnl_gcp_components* gui)
+    : dvc_pnl_ceh_contents_hdl_base(contents_id, gui) {}
+
+dvc_pnl_ceh_contents_hdl_d_07_03::~dvc_pnl_ceh_contents_hdl_d_07_03() = default;
+
+}  // namespace orvanta

@@ -1,0 +1,13 @@
+// Construction of dvc_pnl_ceh_contents_hdl_d_01_01_04_01: small list screens for job detail
+// settings.
+#include "screens/lists/dvc_pnl_ceh_contents_hdl_d_01_01_04_01.h"
+
+namespace orvanta {
+
+dvc_pnl_ceh_contents_hdl_d_01_01_04_01::dvc_pnl_ceh_contents_hdl_d_01_01_04_01(
+    int contents_id, dvu_pnl_gcp_components* gui)
+    : dvc_pnl_ceh_contents_hdl_base(contents_id, gui) {}
+
+dvc_pnl_ceh_contents_hdl_d_01_01_04_01::~dvc_pnl_ceh_contents_hdl_d_01_01_04_01() = default;
+
+}  // namespace orvanta
