@@ -257,14 +257,24 @@ host_page_stack& stack() {
   return *s;
 }
 
-// Windows are the pages of the shown function. Closes take effect at once on the host, so the
-// survive list is the same as the list of all windows.
+// The windows of every function, those of the shown function on top: the top window is the page
+// the user sees, and a page of a function in the background always has a window above it, so it
+// never reaches the LCD. Closes take effect at once on the host, so the survive list is the same
+// as the list of all windows.
 class host_window_list final : public dvu_pnl_wmg_list_controller {
  public:
   int dvu_pnl_lst_get_list(std::vector<DVU_PNL_WMG_WINDOW_TRAITS>& list) override {
     list.clear();
-    for (const auto& p : stack().list_of(stack().dvc_pnl_psm_get_function()))
-      list.push_back({p->contents_id, p->order, p.get(), p->function});
+    const int shown = stack().dvc_pnl_psm_get_function();
+    auto add = [&list](int function) {
+      for (const auto& p : stack().list_of(function))
+        list.push_back({p->contents_id, p->order, p.get(), p->function});
+    };
+    for (int f = host_data_manager::kFunctionMin; f <= host_data_manager::kFunctionMax; ++f) {
+      if (f != shown)
+        add(f);
+    }
+    add(shown);
     return 0;
   }
 

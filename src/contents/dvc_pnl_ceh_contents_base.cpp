@@ -32,9 +32,6 @@ constexpr int kEventKeyRelease = 87;
 constexpr int kCursorBlinkDelayMs = 800;
 constexpr int kCursorBlinkMode = 9;
 
-// The id of the remote-operation lock screen, the one contents that draws as the lock image.
-constexpr int kCidLockScreen = 2202;  // CID_11_13_N3
-
 // Where a key event carries its operation source.
 constexpr unsigned long kNodeOperationSource = 4165;
 
@@ -531,7 +528,7 @@ int dvc_pnl_ceh_contents_base::dvc_pnl_ceh_lcd_out_lock_screen(unsigned char* im
 }
 
 void dvc_pnl_ceh_contents_base::dvc_pnl_ceh_draw_lock_screen(unsigned char* img) {
-  if (contents_id_ != kCidLockScreen)
+  if (contents_id_ != CID_11_13_N3)  // the lock screen is the one contents drawn as the lock image
     return;
   unsigned char* target = img != nullptr ? img : lcd_img_;
   if (dvu_pnl_gcp_draw(gui_, target) != 0) {

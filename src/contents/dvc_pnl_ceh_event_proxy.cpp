@@ -24,7 +24,6 @@ constexpr int kEventTable[] = {
 static_assert(std::size(kEventTable) == 66, "the proxy answers 66 panel events");
 
 // The remote panel's own information page is placed at a fixed height of its layer.
-constexpr int kCidRemotePanelInformation = 1761;  // CID_08_24_N1
 constexpr unsigned kRemotePanelInformationOrder = 120050;
 
 // Cells of the page stack that the placing rules name.
@@ -390,7 +389,7 @@ int dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_is_remote_panel_page_state(CONTENTS_OPE
                                                                     unsigned& order) {
   if (info.state == kStateAlert)
     return 0;
-  if (info.contents_id == kCidRemotePanelInformation) {
+  if (info.contents_id == CID_08_24_N1) {
     order = kRemotePanelInformationOrder;
     return 1;
   }

@@ -2,14 +2,14 @@
 // and LCD output, going back, function ids, icons and device helpers, driven through the proxy.
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <map>
+#include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "contents/dvc_pnl_ceh_contents_hdl_base.h"
-#include "contents/dvc_pnl_ceh_contents_proc_factory.h"
 #include "contents/dvc_pnl_ceh_event_proxy.h"
+#include "contents_probe.h"
 #include "orvanta/host/host_data_manager.h"
 #include "orvanta/host/panel_host.h"
 #include "orvanta/host/trace_sink.h"
@@ -18,118 +18,13 @@
 #include "support/trace_expect.h"
 #include "support/valueset_builder.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_conditions.h"
-#include "util/dvc_pnl_ceh_contents_hdl_util_dm.h"
 
 namespace orvanta {
 namespace {
 
-using test::traced;
+using namespace test;
 
-constexpr int kFunc = 1;
-// Ordinary pages: group 0, state 2.
-constexpr int kA = 100;
-constexpr int kB = 101;
-constexpr int kC = 102;
-constexpr int kD = 103;
 constexpr int kLockScreen = 2202;
-
-dvc_pnl_ceh_event_proxy* proxy() {
-  return dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_get_instance();
-}
-
-class probe;
-
-// What the tests let a page do, per contents id.
-struct hooks {
-  std::function<int(probe&, dvc_pnl_evh_panel_event&)> key;
-  std::function<int(probe&, DVU_PNL_GCP_NOTIFY*)> notify;  // every kind of GUI notify
-};
-
-std::map<int, hooks>& hooks_by_id() {
-  static std::map<int, hooks> h;
-  return h;
-}
-
-std::vector<std::string>& journal() {
-  static std::vector<std::string> j;
-  return j;
-}
-
-void note(const std::string& s) {
-  journal().push_back(s);
-}
-
-// A page whose answers the test scripts; it journals the calls the framework makes on it.
-class probe : public dvc_pnl_ceh_contents_hdl_base {
- public:
-  probe(int id, dvu_pnl_gcp_components* gui) : dvc_pnl_ceh_contents_hdl_base(id, gui) {}
-  ~probe() override { note("destroy " + std::to_string(contents_id_)); }
-
-  void dvc_pnl_ceh_on_load() override {
-    note("load " + std::to_string(contents_id_));
-    draw();
-  }
-  void dvc_pnl_ceh_on_activate() override {
-    note("activate " + std::to_string(contents_id_));
-    draw();
-  }
-  int dvc_pnl_ceh_on_key(dvc_pnl_evh_panel_event& event) override {
-    note("key " + std::to_string(contents_id_) + " " + std::to_string(event.dvc_pnl_evh_get_id()));
-    hooks& h = hooks_by_id()[contents_id_];
-    return h.key ? h.key(*this, event) : 0;
-  }
-  int dvc_pnl_ceh_on_gui_edit_notify(DVU_PNL_GCP_NOTIFY* n) override { return notify("edit", n); }
-  int dvc_pnl_ceh_on_gui_button_notify(DVU_PNL_GCP_NOTIFY* n) override {
-    return notify("button", n);
-  }
-  int dvc_pnl_ceh_on_gui_list_notify(DVU_PNL_GCP_NOTIFY* n) override { return notify("list", n); }
-
-  // Holds LCD output and opens `id` once this page is gone.
-  void set_open_after_close(int id) {
-    open_after_close_ = static_cast<DVC_PNL_CEH_CONTENTS_ID>(id);
-    dvc_pnl_ceh_event_proxy::redraw_pausing_ = 1;
-  }
-  static int opener_of(int id) {
-    auto it = child_opener_.find(id);
-    return it == child_opener_.end() ? -1 : it->second;
-  }
-
- private:
-  int notify(const char* kind, DVU_PNL_GCP_NOTIFY* n) {
-    note(std::string(kind) + " " + std::to_string(contents_id_) + " count " +
-         std::to_string(n->repeat_count) + " at " + std::to_string(emwOSWGetSysTimer()));
-    hooks& h = hooks_by_id()[contents_id_];
-    return h.notify ? h.notify(*this, n) : 1;
-  }
-};
-
-probe* page(int id, int func = kFunc) {
-  for (const host::page_record& p : host::pages_of(func)) {
-    if (p.contents_id == id)
-      return dynamic_cast<probe*>(p.contents);
-  }
-  return nullptr;
-}
-
-probe* open(int id, int func = kFunc) {
-  auto* factory = dvc_pnl_ceh_contents_proc_factory::dvc_pnl_ceh_get_instance();
-  CONTENTS_OPEN_INFO info{factory->dvc_pnl_ceh_get_contents_class_group(id), func,
-                          factory->dvc_pnl_ceh_get_contents_class_state(id), id};
-  CONTENTS_OPEN_INFO opener{0, func, 0, 0};
-  EXPECT_EQ(proxy()->dvc_pnl_ceh_open_contents(info, opener), 0);
-  return page(id, func);
-}
-
-dvc_pnl_evh_panel_event key_event(int id, long source = 0) {
-  dvc_pnl_evh_panel_event event(id);
-  if (source != 0)
-    event.dvc_pnl_evh_set_event_source_valueset(test::make_valueset({{"0.4165", source}}));
-  return event;
-}
-
-int press(int id, long source = 0) {
-  return proxy()->dvc_pnl_ceh_gui_event_proc(key_event(id, source));
-}
 
 // A USB keyboard key as the framework delivers it: event 1071 with the key code or a release.
 int keyboard(long code, bool release = false) {
@@ -140,13 +35,6 @@ int keyboard(long code, bool release = false) {
     event.dvc_pnl_evh_set_event_source_valueset(test::make_valueset({{"0.4166", code}}));
   }
   return proxy()->dvu_pnl_evd_notify(event);
-}
-
-void run_for(unsigned long ms) {
-  for (unsigned long i = 0; i < ms; ++i) {
-    host::host_clock::instance().advance(1);
-    host::pump();
-  }
 }
 
 // Runs the panel until the clock reads `t`; handlers may move the clock on their own meanwhile.
@@ -160,15 +48,6 @@ void run_until(unsigned long t) {
   }
 }
 
-std::vector<std::string> journal_with(const std::string& prefix) {
-  std::vector<std::string> out;
-  for (const std::string& s : journal()) {
-    if (s.rfind(prefix, 0) == 0)
-      out.push_back(s);
-  }
-  return out;
-}
-
 // The times at which the GUI notify of page `id` was called, in order.
 std::vector<unsigned long> notify_times(const std::string& kind, int id) {
   std::vector<unsigned long> out;
@@ -176,16 +55,6 @@ std::vector<unsigned long> notify_times(const std::string& kind, int id) {
   for (const std::string& s : journal_with(prefix))
     out.push_back(std::stoul(s.substr(s.rfind(' ') + 1)));
   return out;
-}
-
-void set_app_int(const std::string& key, int value) {
-  ASSERT_EQ(dvc_pnl_ceh_contents_hdl_set_int_to_dm_by_application(key, value), 0);
-}
-
-int get_app_int(const std::string& key) {
-  int value = -1;
-  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_get_int_from_dm_by_application(key, value), 0);
-  return value;
 }
 
 void set_remote_status(long status) {
@@ -216,30 +85,8 @@ int icon_of(probe* p, int part) {
   return icon;
 }
 
-class ContentsBaseTest : public ::testing::Test {
+class ContentsBaseTest : public ProbeFixture {
  protected:
-  void SetUp() override {
-    host::reset();
-    proxy()->reset_for_tests();
-    dvc_pnl_ceh_contents_base::reset_statics();
-    dvc_pnl_ceh_contents_hdl_base::reset_statics();
-    hooks_by_id().clear();
-    journal().clear();
-    host::set_contents_creator(
-        [](int id, dvu_pnl_gcp_components* gui) -> dvc_pnl_ceh_contents_interface* {
-          return new probe(id, gui);
-        });
-    proxy()->dvc_pnl_ceh_event_initialize();
-  }
-
-  void TearDown() override {
-    host::reset();
-    proxy()->reset_for_tests();
-    dvc_pnl_ceh_contents_base::reset_statics();
-    hooks_by_id().clear();
-    journal().clear();
-  }
-
   // A page whose components report a button with key repeat of `kind`.
   probe* repeating_page(int id, int kind) {
     probe* p = open(id);
@@ -291,7 +138,7 @@ TEST_F(ContentsBaseTest, KeyRepeatDelaysByKind) {
 
 TEST_F(ContentsBaseTest, KeyRepeatSubtractsTheTimeTheTickTook) {
   repeating_page(kA, 1);
-  hooks_by_id()[kA].notify = [](probe&, DVU_PNL_GCP_NOTIFY* n) {
+  hooks_by_id()[kA].button = [](probe&, DVU_PNL_GCP_NOTIFY* n) {
     // Slow handling: the clock moves while the tick runs.
     const unsigned long slow[] = {0, 0, 40, 1040, 350};
     if (n->repeat_count >= 2 && n->repeat_count <= 4)
@@ -373,7 +220,8 @@ TEST_F(ContentsBaseTest, NotifyTypeChoosesTheHandler) {
   for (const row& r : rows) {
     SCOPED_TRACE("type " + std::to_string(r.type));
     for (int answer : {0, 1}) {
-      hooks_by_id()[kA].notify = [answer](probe&, DVU_PNL_GCP_NOTIFY* n) {
+      hooks& h = hooks_by_id()[kA];
+      h.edit = h.button = h.list = [answer](probe&, DVU_PNL_GCP_NOTIFY* n) {
         EXPECT_EQ(n->repeat_count, 0);
         return answer;
       };
@@ -500,6 +348,22 @@ TEST_F(ContentsBaseTest, CoveredPageDrawsNothing) {
   a->draw();
   EXPECT_EQ(host::gui_of(kA, kFunc)->draws, draws);
   EXPECT_EQ(host::devices().frames.size(), frames);
+}
+
+TEST_F(ContentsBaseTest, PageOfABackgroundFunctionDrawsNothing) {
+  probe* copy_page = open(kA, 1);
+  auto* psm = dvc_pnl_psm_page_stack_matrix::dvc_pnl_psm_get_instance();
+  ASSERT_EQ(psm->dvc_pnl_psm_change_function(3), 0);
+  open(kB, 3);
+  const std::size_t frames = host::devices().frames.size();
+  copy_page->draw();
+  EXPECT_EQ(host::devices().frames.size(), frames);
+  ASSERT_EQ(psm->dvc_pnl_psm_change_function(1), 0);
+  page(kB, 3)->draw();  // now the send page is the one in the background
+  EXPECT_EQ(host::devices().frames.size(), frames);
+  copy_page->draw();
+  ASSERT_EQ(host::devices().frames.size(), frames + 1);
+  EXPECT_EQ(frame_id(host::devices().frames.back()), static_cast<unsigned>(kA));
 }
 
 TEST_F(ContentsBaseTest, PageWaitingToCloseDrawsNothing) {
@@ -677,10 +541,8 @@ TEST_F(ContentsBaseTest, BackToContentsClosesFromJustAboveTheTarget) {
   const std::size_t log_before = host::page_stack_log().size();
   press(40);
   EXPECT_EQ(answer, 0);
-  const auto& log = host::page_stack_log();
-  EXPECT_EQ(
-      std::vector<std::string>(log.begin() + static_cast<std::ptrdiff_t>(log_before), log.end()),
-      (std::vector<std::string>{"close 0 1 2 101", "close 0 1 2 102", "close 0 1 2 103"}));
+  EXPECT_EQ(log_since(log_before),
+            (std::vector<std::string>{"close 0 1 2 101", "close 0 1 2 102", "close 0 1 2 103"}));
   EXPECT_EQ(host::pages_of(kFunc).size(), 1u);
   EXPECT_EQ(journal_with("activate"), std::vector<std::string>{"activate 100"});
 }
@@ -787,7 +649,8 @@ TEST_F(ContentsBaseTest, ChildOpensUnderTheShownFunctionAndRemembersItsOpener) {
 
   dvc_pnl_psm_page_stack_matrix::dvc_pnl_psm_get_instance()->dvc_pnl_psm_change_function(3);
   EXPECT_EQ(a->open_child_contents(static_cast<DVC_PNL_CEH_CONTENTS_ID>(kC)), 0);
-  EXPECT_EQ(host::page_stack_log().back(), "open 0 3 2 102 1");
+  // Placing looks at every window: the top group 0 window is still the copy page kB.
+  EXPECT_EQ(host::page_stack_log().back(), "open 0 3 2 102 3");
 
   const std::size_t log_size = host::page_stack_log().size();
   EXPECT_EQ(a->open_child_contents(CID_NONE), 0);
@@ -810,10 +673,8 @@ TEST_F(ContentsBaseTest, OpenAfterCloseShowsNoFrameOfThePageBelow) {
   const std::size_t frames = host::devices().frames.size();
   const std::size_t log_before = host::page_stack_log().size();
   press(40);
-  const auto& log = host::page_stack_log();
-  EXPECT_EQ(
-      std::vector<std::string>(log.begin() + static_cast<std::ptrdiff_t>(log_before), log.end()),
-      (std::vector<std::string>{"close 0 1 2 101", "open 0 1 2 102 2"}));
+  EXPECT_EQ(log_since(log_before),
+            (std::vector<std::string>{"close 0 1 2 101", "open 0 1 2 102 2"}));
   EXPECT_EQ(dvc_pnl_ceh_event_proxy::redraw_pausing_, 0);
   ASSERT_EQ(host::devices().frames.size(), frames + 1);
   EXPECT_EQ(frame_id(host::devices().frames.back()), static_cast<unsigned>(kC));
@@ -826,7 +687,7 @@ TEST_F(ContentsBaseTest, ComingBackToTheTopActivatesThePage) {
   open(kB);
   journal().clear();
   page(kB)->back_to_parent();
-  EXPECT_EQ(journal(), (std::vector<std::string>{"destroy 101", "activate 100"}));
+  EXPECT_EQ(journal(), (std::vector<std::string>{"close 101", "destroy 101", "activate 100"}));
 }
 
 TEST_F(ContentsBaseTest, BuzzerHelpers) {

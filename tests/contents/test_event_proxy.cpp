@@ -4,107 +4,23 @@
 
 #include <cstdio>
 #include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
 #include "contents/dvc_pnl_ceh_contents_hdl_base.h"
-#include "contents/dvc_pnl_ceh_contents_proc_factory.h"
 #include "contents/dvc_pnl_ceh_event_proxy.h"
+#include "contents_probe.h"
 #include "orvanta/host/host_data_manager.h"
 #include "orvanta/host/panel_host.h"
 #include "orvanta/host/trace_sink.h"
 #include "orvanta/platform/dvc_pnl_pdm_keys.h"
 #include "support/trace_expect.h"
 #include "support/valueset_builder.h"
-#include "util/dvc_pnl_ceh_contents_hdl_util_dm.h"
 
 namespace orvanta {
 namespace {
 
-using test::traced;
-
-constexpr int kFunc = 1;
-// Ordinary pages: group 0, state 2.
-constexpr int kA = 100;
-constexpr int kB = 101;
-constexpr int kC = 102;
-constexpr int kD = 103;
-
-dvc_pnl_ceh_event_proxy* proxy() {
-  return dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_get_instance();
-}
-
-// What the tests let a page do, per contents id.
-struct hooks {
-  std::function<int(class probe&, dvc_pnl_evh_panel_event&)> key;
-  std::function<int(class probe&, dvc_pnl_evh_panel_event&)> panel;
-  std::function<void(class probe&, int)> timer;
-  std::function<int(class probe&, DVU_PNL_GCP_NOTIFY*)> button;
-};
-
-std::map<int, hooks>& hooks_by_id() {
-  static std::map<int, hooks> h;
-  return h;
-}
-
-// Calls on the pages in the order they happened: "key 101 40", "panel 100 880", "close 101" ...
-std::vector<std::string>& journal() {
-  static std::vector<std::string> j;
-  return j;
-}
-
-void note(const std::string& s) {
-  journal().push_back(s);
-}
-
-// A page whose answers the test scripts; it journals every call the framework makes on it.
-class probe : public dvc_pnl_ceh_contents_hdl_base {
- public:
-  probe(int id, dvu_pnl_gcp_components* gui) : dvc_pnl_ceh_contents_hdl_base(id, gui) {}
-  ~probe() override { note("destroy " + std::to_string(contents_id_)); }
-
-  void dvc_pnl_ceh_on_load() override {
-    note("load " + std::to_string(contents_id_));
-    draw();
-  }
-  void dvc_pnl_ceh_on_close() override { note("close " + std::to_string(contents_id_)); }
-  void dvc_pnl_ceh_on_activate() override {
-    note("activate " + std::to_string(contents_id_));
-    draw();
-  }
-  int dvc_pnl_ceh_on_key(dvc_pnl_evh_panel_event& event) override {
-    note("key " + std::to_string(contents_id_) + " " + std::to_string(event.dvc_pnl_evh_get_id()));
-    hooks& h = hooks_by_id()[contents_id_];
-    return h.key ? h.key(*this, event) : 0;
-  }
-  int dvc_pnl_ceh_on_panel_event(dvc_pnl_evh_panel_event& event) override {
-    note("panel " + std::to_string(contents_id_) + " " +
-         std::to_string(event.dvc_pnl_evh_get_id()));
-    hooks& h = hooks_by_id()[contents_id_];
-    return h.panel ? h.panel(*this, event) : 0;
-  }
-  void dvc_pnl_ceh_on_timer(int id) override {
-    note("timer " + std::to_string(contents_id_) + " " + std::to_string(id) + " at " +
-         std::to_string(emwOSWGetSysTimer()));
-    hooks& h = hooks_by_id()[contents_id_];
-    if (h.timer)
-      h.timer(*this, id);
-  }
-  int dvc_pnl_ceh_on_gui_button_notify(DVU_PNL_GCP_NOTIFY* notify) override {
-    note("button " + std::to_string(contents_id_));
-    hooks& h = hooks_by_id()[contents_id_];
-    return h.button ? h.button(*this, notify) : 1;
-  }
-};
-
-probe* page(int id, int func = kFunc) {
-  for (const host::page_record& p : host::pages_of(func)) {
-    if (p.contents_id == id)
-      return dynamic_cast<probe*>(p.contents);
-  }
-  return nullptr;
-}
+using namespace test;
 
 int id_of(dvc_pnl_ceh_contents_interface* contents) {
   auto* p = dynamic_cast<probe*>(contents);
@@ -119,43 +35,6 @@ int remote_icon_of(int id) {
   return icon;
 }
 
-int group_of(int id) {
-  return dvc_pnl_ceh_contents_proc_factory::dvc_pnl_ceh_get_instance()
-      ->dvc_pnl_ceh_get_contents_class_group(id);
-}
-
-int state_of(int id) {
-  return dvc_pnl_ceh_contents_proc_factory::dvc_pnl_ceh_get_instance()
-      ->dvc_pnl_ceh_get_contents_class_state(id);
-}
-
-// Opens `id` through the proxy as a screen would, from outside any dispatch.
-probe* open(int id, int func = kFunc) {
-  CONTENTS_OPEN_INFO info{group_of(id), func, state_of(id), id};
-  CONTENTS_OPEN_INFO opener{0, func, 0, 0};
-  EXPECT_EQ(proxy()->dvc_pnl_ceh_open_contents(info, opener), 0);
-  return page(id, func);
-}
-
-dvc_pnl_evh_panel_event key_event(int id, long source = 0) {
-  dvc_pnl_evh_panel_event event(id);
-  if (source != 0)
-    event.dvc_pnl_evh_set_event_source_valueset(test::make_valueset({{"0.4165", source}}));
-  return event;
-}
-
-int press(int id, long source = 0) {
-  return proxy()->dvc_pnl_ceh_gui_event_proc(key_event(id, source));
-}
-
-// Runs the panel as its runtime does: time in 1 ms steps, posted events delivered at once.
-void run_for(unsigned long ms) {
-  for (unsigned long i = 0; i < ms; ++i) {
-    host::host_clock::instance().advance(1);
-    host::pump();
-  }
-}
-
 // Delivers what is due now, 0 ms timers included, until nothing is left.
 void settle() {
   for (int i = 0; i < 1000; ++i) {
@@ -166,53 +45,7 @@ void settle() {
   ADD_FAILURE() << "the panel did not settle";
 }
 
-std::vector<std::string> journal_with(const std::string& prefix) {
-  std::vector<std::string> out;
-  for (const std::string& s : journal()) {
-    if (s.rfind(prefix, 0) == 0)
-      out.push_back(s);
-  }
-  return out;
-}
-
-std::vector<std::string> log_since(std::size_t from) {
-  const auto& log = host::page_stack_log();
-  return std::vector<std::string>(log.begin() + static_cast<std::ptrdiff_t>(from), log.end());
-}
-
-void set_app_int(const std::string& key, int value) {
-  ASSERT_EQ(dvc_pnl_ceh_contents_hdl_set_int_to_dm_by_application(key, value), 0);
-}
-
-int get_app_int(const std::string& key) {
-  int value = -1;
-  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_get_int_from_dm_by_application(key, value), 0);
-  return value;
-}
-
-class EventProxyTest : public ::testing::Test {
- protected:
-  void SetUp() override {
-    host::reset();
-    proxy()->reset_for_tests();
-    dvc_pnl_ceh_contents_base::reset_statics();
-    dvc_pnl_ceh_contents_hdl_base::reset_statics();
-    hooks_by_id().clear();
-    journal().clear();
-    host::set_contents_creator(
-        [](int id, dvu_pnl_gcp_components* gui) -> dvc_pnl_ceh_contents_interface* {
-          return new probe(id, gui);
-        });
-    proxy()->dvc_pnl_ceh_event_initialize();
-  }
-
-  void TearDown() override {
-    host::reset();
-    proxy()->reset_for_tests();
-    hooks_by_id().clear();
-    journal().clear();
-  }
-};
+class EventProxyTest : public ProbeFixture {};
 
 // ---------------------------------------------------------------- set-up of the proxy
 
@@ -380,8 +213,8 @@ TEST_F(EventProxyTest, ScreenClosingItselfDuringAKeyLivesToTheEndOfTheDispatch) 
   EXPECT_EQ(page(kB), nullptr);
   ASSERT_EQ(host::page_stack_log().size(), log_in_handler + 1);
   EXPECT_EQ(host::page_stack_log().back(), "close 0 1 2 101");
-  EXPECT_EQ(journal(), (std::vector<std::string>{"key 101 40", "button 101", "close 101",
-                                                 "destroy 101", "activate 100"}));
+  EXPECT_EQ(journal(), (std::vector<std::string>{"key 101 40", "button 101 count 0 at 0",
+                                                 "close 101", "destroy 101", "activate 100"}));
   // The closing page's own draw after the key sent nothing: the only frame is the parent's.
   ASSERT_EQ(host::devices().frames.size(), frames_before + 1);
 }

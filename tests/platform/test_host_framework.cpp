@@ -677,40 +677,44 @@ TEST_F(PageStack, NewContentsSeeTheFunctionShownWhenTheyAreBuilt) {
   EXPECT_EQ(calls.front(), "create(active function 4) 100");
 }
 
-TEST_F(PageStack, WindowListShowsTheShownFunctionBottomFirst) {
+TEST_F(PageStack, WindowListPutsTheShownFunctionOnTop) {
   psm.dvc_pnl_psm_open(1, 1, 0, 100, 1);
   psm.dvc_pnl_psm_open(1, 1, 0, 200, 1);
   psm.dvc_pnl_psm_open(1, 2, 0, 300, 1);
 
+  // Function 1 is shown: the background function's window lies below its windows.
   std::vector<DVU_PNL_WMG_WINDOW_TRAITS> all;
   std::vector<DVU_PNL_WMG_WINDOW_TRAITS> survive;
   ASSERT_EQ(windows.dvu_pnl_lst_get_list(all), 0);
   ASSERT_EQ(windows.dvu_pnl_lst_create_survive_list(survive), 0);
-  ASSERT_EQ(all.size(), 2u);
-  ASSERT_EQ(survive.size(), 2u);
+  const std::vector<std::pair<int, int>> expected = {{300, 2}, {100, 1}, {200, 1}};
+  ASSERT_EQ(all.size(), expected.size());
+  ASSERT_EQ(survive.size(), expected.size());
   for (std::size_t i = 0; i < all.size(); ++i) {
-    EXPECT_EQ(all[i].contents_id, i == 0 ? 100 : 200);
-    EXPECT_EQ(all[i].function, 1);
-    EXPECT_EQ(all[i].manager->dvc_pnl_cmg_get_contents(), contents_of(all[i].contents_id, 1));
+    EXPECT_EQ(all[i].contents_id, expected[i].first);
+    EXPECT_EQ(all[i].function, expected[i].second);
+    EXPECT_EQ(all[i].manager->dvc_pnl_cmg_get_contents(),
+              contents_of(all[i].contents_id, all[i].function));
     EXPECT_EQ(survive[i].contents_id, all[i].contents_id);
     EXPECT_EQ(survive[i].manager, all[i].manager);
   }
 
   int id = 200;
-  EXPECT_EQ(windows.dvu_pnl_lst_check(id, 1), 1);
+  EXPECT_EQ(windows.dvu_pnl_lst_check(id, 1), 2);
   id = 100;
-  EXPECT_EQ(windows.dvu_pnl_lst_check(id, 1), 0);
+  EXPECT_EQ(windows.dvu_pnl_lst_check(id, 1), 1);
   id = 300;
-  EXPECT_EQ(windows.dvu_pnl_lst_check(id, 2), -1) << "function 2 is not shown";
+  EXPECT_EQ(windows.dvu_pnl_lst_check(id, 2), 0);
+  EXPECT_EQ(windows.dvu_pnl_lst_check(id, 1), -1) << "the function is part of the address";
   id = 999;
   EXPECT_EQ(windows.dvu_pnl_lst_check(id, 1), -1);
 
   psm.dvc_pnl_psm_change_function(2);
   windows.dvu_pnl_lst_get_list(all);
-  ASSERT_EQ(all.size(), 1u);
-  EXPECT_EQ(all[0].contents_id, 300);
+  ASSERT_EQ(all.size(), 3u);
+  EXPECT_EQ(all.back().contents_id, 300);
   id = 300;
-  EXPECT_EQ(windows.dvu_pnl_lst_check(id, 2), 0);
+  EXPECT_EQ(windows.dvu_pnl_lst_check(id, 2), 2);
 }
 
 TEST_F(PageStack, ExtPageTraitsNameGroupAndStateOfAnOpenPage) {

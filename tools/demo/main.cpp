@@ -1,5 +1,5 @@
-// Walks the foundation on the host platform: reads a machine list, hands values between pages
-// through the data manager, checks typed text, and prints what the panel traced.
+// Walks the panel on the host platform: opens screens through the event proxy, presses keys, lets
+// time pass, reads a machine list, hands values between pages and checks typed text.
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -90,6 +90,37 @@ void check_inputs() {
   }
 }
 
+// Opens screens as the framework does and prints what the page stack and the devices saw.
+void open_screens() {
+  std::puts("== screens opened through the event proxy");
+  auto* factory = dvc_pnl_ceh_contents_proc_factory::dvc_pnl_ceh_get_instance();
+  host::set_contents_creator([factory](int id, dvu_pnl_gcp_components* gui) {
+    return factory->dvc_pnl_ceh_create_contents_proc_class(id, gui);
+  });
+  auto* proxy = dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_get_instance();
+  proxy->dvc_pnl_ceh_event_initialize();
+
+  const int copy = 1;
+  for (int id : {CID_01_01_N1, CID_02_01_N1, CID_09_01_N1}) {
+    CONTENTS_OPEN_INFO open{factory->dvc_pnl_ceh_get_contents_class_group(id), copy,
+                            factory->dvc_pnl_ceh_get_contents_class_state(id), id};
+    CONTENTS_OPEN_INFO opener{0, copy, 0, 0};
+    proxy->dvc_pnl_ceh_open_contents(open, opener);
+  }
+  dvc_pnl_evh_panel_event back(61);
+  int consumed = proxy->dvc_pnl_ceh_gui_event_proc(back);
+  std::printf("  key 61 on the top screen: %s\n", consumed == 0 ? "consumed" : "not consumed");
+  host::host_clock::instance().advance(1000);
+  host::pump();
+  for (const std::string& line : host::page_stack_log())
+    std::printf("  page stack: %s\n", line.c_str());
+  for (const auto& page : host::pages_of(copy)) {
+    std::printf("  open page: %s (group %d, state %d, order %u)\n",
+                dvc_pnl_ceh_logger::get_cid(page.contents_id), page.group, page.state, page.order);
+  }
+  host::reset();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -98,6 +129,7 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: orvanta_demo [--trace]\n");
     return 2;
   }
+  open_screens();
   read_user_list();
   hand_over_between_pages();
   check_inputs();
