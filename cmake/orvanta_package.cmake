@@ -1,15 +1,17 @@
-# Installable CMake package `orvanta_panel`: orvanta::panel, orvanta::platform.
+# Installable CMake package `orvanta_panel`: orvanta::panel, orvanta::platform, orvanta::machine.
 include(CMakePackageConfigHelpers)
 
-install(TARGETS orvanta_panel orvanta_platform orvanta_platform_interface
+install(TARGETS orvanta_panel orvanta_platform orvanta_platform_interface orvanta_machine
         EXPORT orvanta_panel_targets
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
-# Platform interface headers, host headers and the library's own headers.
+# Platform interface headers, host headers, the simulated machine's headers and the library's own
+# headers.
 install(DIRECTORY platform/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(DIRECTORY platform/host/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY machine/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orvanta/panel
         FILES_MATCHING PATTERN "*.h" PATTERN "orvanta" EXCLUDE)
 install(FILES src/orvanta/panel.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orvanta)

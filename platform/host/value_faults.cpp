@@ -12,7 +12,15 @@ std::array<int, static_cast<int>(value_op::count_)> countdown = [] {
   return a;
 }();
 bool any_armed = false;
+int pause_depth = 0;
 }  // namespace
+
+value_fault_pause::value_fault_pause() {
+  ++pause_depth;
+}
+value_fault_pause::~value_fault_pause() {
+  --pause_depth;
+}
 
 void fail_value_op(value_op op, int skip) {
   countdown[static_cast<int>(op)] = skip < 0 ? 0 : skip;
@@ -25,7 +33,7 @@ void clear_value_faults() {
 }
 
 bool value_fault_hit(value_op op) {
-  if (!any_armed)
+  if (!any_armed || pause_depth > 0)
     return false;
   int& c = countdown[static_cast<int>(op)];
   if (c < 0)

@@ -179,5 +179,19 @@ TEST_F(ValueTypes, InjectedFailureHitsTheNamedCallOnce) {
   EXPECT_EQ(set.dvc_pnl_cmm_remove_value(k), 0);
 }
 
+TEST_F(ValueTypes, PausedFaultsNeitherFailNorCount) {
+  dvc_pnl_cmm_key k;
+  host::fail_value_op(host::value_op::key_add, 1);
+  {
+    const host::value_fault_pause pause;
+    EXPECT_EQ(k.dvc_pnl_cmm_add_key(0), 0);
+    EXPECT_EQ(k.dvc_pnl_cmm_add_key(1), 0);
+    EXPECT_EQ(k.dvc_pnl_cmm_add_key(2), 0);
+  }
+  EXPECT_EQ(k.dvc_pnl_cmm_add_key(3), 0);  // the one call still to pass
+  EXPECT_NE(k.dvc_pnl_cmm_add_key(4), 0);
+  EXPECT_EQ(k.to_dotted(), "0.1.2.3");
+}
+
 }  // namespace
 }  // namespace orvanta

@@ -23,4 +23,14 @@ void clear_value_faults();
 // True when the call of `op` that is happening now must fail; counts the call otherwise.
 bool value_fault_hit(value_op op);
 
+// While one of these lives, value-layer calls neither fail nor count: the simulated machine holds
+// one around its own work, so a failure armed for the panel's code is not used up by the machine.
+class value_fault_pause {
+ public:
+  value_fault_pause();
+  ~value_fault_pause();
+  value_fault_pause(const value_fault_pause&) = delete;
+  value_fault_pause& operator=(const value_fault_pause&) = delete;
+};
+
 }  // namespace orvanta::host

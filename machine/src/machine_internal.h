@@ -1,0 +1,48 @@
+// Pieces of the simulated machine shared by its source files: paths, the list service and the
+// model file parser.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "orvanta/machine/simulated_machine.h"
+
+namespace orvanta::machine::detail {
+
+using path = std::vector<unsigned long>;
+
+// Dot-separated decimal node ids; nullopt for anything else (empty parts, signs, overflow).
+std::optional<path> parse_path(std::string_view dotted);
+std::string to_dotted(const path& p);
+// Builds `out` from `p`; answers the first failing append's code.
+int make_key(const path& p, dvc_pnl_cmm_key& out);
+
+// A list served by the paged list service.
+struct list_data {
+  std::vector<list_row> rows;
+  long header_1337 = 0;
+  long header_1524 = 0;
+};
+
+// Answers one paged list request of `command` into `response` (cleared first). The mediator
+// result is the value layer's code should building the answer fail, 0 otherwise.
+int serve_list(const list_data& list, const dvc_pnl_cmm_key& command,
+               const dvc_pnl_cmm_valueset& request, dvc_pnl_cmm_valueset& response);
+
+// A model file, parsed and checked, not yet applied.
+struct model {
+  std::vector<std::pair<path, dvc_pnl_cmm_value>> nodes;
+  std::map<std::string, list_data> lists;  // by dotted command path
+  bool replace = false;
+};
+// Throws std::runtime_error with a readable text for malformed JSON or content.
+model parse_model(const std::string& text);
+
+// The simulator's sample machine, as a model file.
+const char* default_model_json();
+
+}  // namespace orvanta::machine::detail

@@ -1,0 +1,153 @@
+// Reads a model file (JSON) into nodes and lists, checking everything before any of it is used.
+#include <limits>
+#include <stdexcept>
+
+#include <nlohmann/json.hpp>
+
+#include "machine_internal.h"
+
+namespace orvanta::machine::detail {
+namespace {
+
+using nlohmann::json;
+
+[[noreturn]] void fail(const std::string& what) {
+  throw std::runtime_error(what);
+}
+
+path node_path(const std::string& text, const std::string& where) {
+  std::optional<path> p = parse_path(text);
+  if (!p || p->empty() || (*p)[0] != 0)
+    fail(where + ": \"" + text + "\" is not a node path from ROOT (0.x.y...)");
+  return *p;
+}
+
+int hex_digit(char c) {
+  if (c >= '0' && c <= '9')
+    return c - '0';
+  if (c >= 'a' && c <= 'f')
+    return c - 'a' + 10;
+  if (c >= 'A' && c <= 'F')
+    return c - 'A' + 10;
+  return -1;
+}
+
+dvc_pnl_cmm_binary binary_of(const std::string& hex, const std::string& where) {
+  if (hex.size() % 2 != 0)
+    fail(where + ": binary \"" + hex + "\" has an odd number of hex digits");
+  std::vector<unsigned char> bytes;
+  for (std::size_t i = 0; i < hex.size(); i += 2) {
+    const int hi = hex_digit(hex[i]);
+    const int lo = hex_digit(hex[i + 1]);
+    if (hi < 0 || lo < 0)
+      fail(where + ": binary \"" + hex + "\" holds a character that is not a hex digit");
+    bytes.push_back(static_cast<unsigned char>(hi * 16 + lo));
+  }
+  dvc_pnl_cmm_binary b;
+  if (b.dvc_pnl_cmm_set_data(bytes.data(), bytes.size()) != 0)
+    fail(where + ": value layer refused a binary");
+  return b;
+}
+
+// A leaf: an integer, a string, or {"binary": "<hex>"}.
+dvc_pnl_cmm_value leaf_of(const json& j, const std::string& where) {
+  dvc_pnl_cmm_value v;
+  int ret = 0;
+  if (j.is_number_integer()) {
+    if (j.is_number_unsigned() &&
+        j.get<unsigned long long>() >
+            static_cast<unsigned long long>(std::numeric_limits<long>::max())) {
+      fail(where + ": integer out of range");
+    }
+    ret = v.dvc_pnl_cmm_set_int(j.get<long>());
+  } else if (j.is_string()) {
+    ret = v.dvc_pnl_cmm_set_string(j.get<std::string>().c_str());
+  } else if (j.is_object() && j.size() == 1 && j.contains("binary") && j["binary"].is_string()) {
+    ret = v.dvc_pnl_cmm_set_binary(binary_of(j["binary"].get<std::string>(), where));
+  } else {
+    fail(where + ": a value must be an integer, a string or {\"binary\": \"<hex>\"}");
+  }
+  if (ret != 0)
+    fail(where + ": value layer refused the value");
+  return v;
+}
+
+long header_value(const json& j, const std::string& where) {
+  if (!j.is_number_integer())
+    fail(where + ": header values must be integers");
+  return j.get<long>();
+}
+
+list_data list_of(const json& j, const std::string& where) {
+  if (!j.is_object())
+    fail(where + ": a list must be an object with \"rows\" and an optional \"header\"");
+  list_data list;
+  for (const auto& [name, item] : j.items()) {
+    if (name == "header") {
+      if (!item.is_array() || item.size() != 2)
+        fail(where + ": \"header\" must be two integers (nodes 1337 and 1524)");
+      list.header_1337 = header_value(item[0], where);
+      list.header_1524 = header_value(item[1], where);
+    } else if (name == "rows") {
+      if (!item.is_array())
+        fail(where + ": \"rows\" must be an array");
+      for (std::size_t i = 0; i < item.size(); ++i) {
+        const std::string row_where = where + " row " + std::to_string(i);
+        const json& row = item[i];
+        if (!row.is_object())
+          fail(row_where + ": a row must be an object of field node -> value");
+        list_row r;
+        for (const auto& [field, value] : row.items()) {
+          std::optional<path> id = parse_path(field);
+          if (!id || id->size() != 1)
+            fail(row_where + ": field \"" + field + "\" is not a node number");
+          r.fields[(*id)[0]] = leaf_of(value, row_where + " field " + field);
+        }
+        list.rows.push_back(std::move(r));
+      }
+    } else {
+      fail(where + ": unknown member \"" + name + "\"");
+    }
+  }
+  return list;
+}
+
+}  // namespace
+
+model parse_model(const std::string& text) {
+  json doc;
+  try {
+    doc = json::parse(text);
+  } catch (const json::exception& e) {
+    fail(std::string("model file is not valid JSON: ") + e.what());
+  }
+  if (!doc.is_object())
+    fail("model file must be a JSON object");
+  model m;
+  for (const auto& [name, item] : doc.items()) {
+    if (name == "nodes") {
+      if (!item.is_object())
+        fail("\"nodes\" must be an object of node path -> value");
+      for (const auto& [p, value] : item.items()) {
+        const std::string where = "node " + p;
+        m.nodes.emplace_back(node_path(p, where), leaf_of(value, where));
+      }
+    } else if (name == "lists") {
+      if (!item.is_object())
+        fail("\"lists\" must be an object of command path -> list");
+      for (const auto& [p, value] : item.items()) {
+        const std::string where = "list " + p;
+        m.lists[to_dotted(node_path(p, where))] = list_of(value, where);
+      }
+    } else if (name == "replace") {
+      if (!item.is_boolean())
+        fail("\"replace\" must be true or false");
+      m.replace = item.get<bool>();
+    } else {
+      fail("unknown member \"" + name + "\" (expected nodes, lists, replace)");
+    }
+  }
+  return m;
+}
+
+}  // namespace orvanta::machine::detail
