@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <string>
 #include <vector>
 
 #include "contents/dvc_pnl_ceh_contents_base.h"
@@ -49,8 +50,41 @@ class dvc_pnl_ceh_contents_hdl_base : public dvc_pnl_ceh_contents_base {
   int set_timer(int id, int ms);
   int kill_timer(int id);
   int buzzer(BUZZER_PATTERN_ID pattern);
+  // Opening.
+  int open_rop_lock_screen(DVC_PNL_CEH_CONTENTS_ID id);
+  // Holds LCD output; once this page is gone `id` opens as a child.
+  void dvc_pnl_ceh_set_open_after_close(DVC_PNL_CEH_CONTENTS_ID id);
+  // The page that opened this one as its child, or CID_NONE.
+  DVC_PNL_CEH_CONTENTS_ID dvc_pnl_ceh_get_opener();
+
+  // Going back.
   int back_to_parent();
   int close_contents(DVC_PNL_CEH_CONTENTS_ID id);
+  int back_to_contents(DVC_PNL_CEH_CONTENTS_ID id);
+  int back_to_grandfather();
+  int back_to_top();
+  int back_to_panel_default_screen();
+  int back_to_contents_from_dm();
+  int set_back_cid_to_dm();
+  int get_base_content_id(DVC_PNL_CEH_CONTENTS_ID& out);
+  int change_function(const int& id);
+
+  // Queries.
+  int get_n_level_parent_contents_id(int n);
+  dvc_pnl_ceh_contents_base* dvc_pnl_ceh_search_parent_contents(int id);
+  int dvc_pnl_ceh_get_activate_on_close();
+
+  // Keys and the data manager.
+  void dvc_pnl_ceh_buzzer_start_key_and_reset_key_in_maintenance_mode();
+  int dvc_pnl_ceh_set_pdm_key_fail_buzzer_flag_value_to_on(dvc_pnl_evh_panel_event& event);
+  int set_application_scope_pdm(std::string key, long value);
+
+  // Sleep and automatic reset: a nonzero `disable` takes this page's hold, 0 releases it. The
+  // automatic reset timer stops with the first hold and starts again with the last release.
+  void dvc_pnl_ceh_disable_sleep_and_reset(int disable);
+  // The reset key on a login screen: clears the entered user and goes back past the login flow.
+  // 1 when it acted, else 0.
+  int dvc_pnl_ceh_login_reset_key_process(dvc_pnl_evh_panel_event& event);
 
   // Clears the handler base's statics; for tests and the runtime.
   static void reset_statics();
