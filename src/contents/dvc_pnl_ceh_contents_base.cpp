@@ -462,6 +462,14 @@ void dvc_pnl_ceh_contents_base::dvc_pnl_ceh_draw(unsigned char* img) {
   dvc_pnl_ceh_lcd_out(target);
 }
 
+// Every output ends a blinking cursor first; a new one is armed only after the frame.
+void dvc_pnl_ceh_contents_base::end_cursor_blink(dvu_pnl_dec_lcd_controller* c) {
+  if (cursor_blink_ == 1 && c != nullptr)
+    c->dvu_pnl_dec_set_lcd_reverse_blink_end();
+  cursor_blink_ = 0;
+  dvc_pnl_ceh_kill_timer(DVC_PNL_CEH_TIMER_CURSOR_BLINK);
+}
+
 void dvc_pnl_ceh_contents_base::arm_cursor_blink() {
   dvc_pnl_ceh_set_timer(DVC_PNL_CEH_TIMER_CURSOR_BLINK, kCursorBlinkDelayMs);
   cursor_blink_ = 2;
@@ -470,10 +478,7 @@ void dvc_pnl_ceh_contents_base::arm_cursor_blink() {
 int dvc_pnl_ceh_contents_base::dvc_pnl_ceh_lcd_out(unsigned char* img) {
   unsigned char* target = img != nullptr ? img : lcd_img_;
   dvu_pnl_dec_lcd_controller* c = lcd();
-  if (cursor_blink_ == 1 && c != nullptr)
-    c->dvu_pnl_dec_set_lcd_reverse_blink_end();
-  cursor_blink_ = 0;
-  dvc_pnl_ceh_kill_timer(DVC_PNL_CEH_TIMER_CURSOR_BLINK);
+  end_cursor_blink(c);
 
   int exist = 0;
   int display = 0;
@@ -500,10 +505,7 @@ int dvc_pnl_ceh_contents_base::dvc_pnl_ceh_lcd_out(unsigned char* img) {
 int dvc_pnl_ceh_contents_base::dvc_pnl_ceh_lcd_out_lock_screen(unsigned char* img) {
   unsigned char* target = img != nullptr ? img : lcd_img_;
   dvu_pnl_dec_lcd_controller* c = lcd();
-  if (cursor_blink_ == 1 && c != nullptr)
-    c->dvu_pnl_dec_set_lcd_reverse_blink_end();
-  cursor_blink_ = 0;
-  dvc_pnl_ceh_kill_timer(DVC_PNL_CEH_TIMER_CURSOR_BLINK);
+  end_cursor_blink(c);
 
   int result = 0;
   if (lcd_update_ != 0) {

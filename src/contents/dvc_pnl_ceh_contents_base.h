@@ -128,6 +128,7 @@ class dvc_pnl_ceh_contents_base : public dvc_pnl_ceh_contents_interface {
   void on_key_repeat_tick();
   // Starts the cursor blink 800 ms after the last frame.
   void arm_cursor_blink();
+  void end_cursor_blink(dvu_pnl_dec_lcd_controller* c);
 };
 
 // 1 while a USB keyboard event is being handled.

@@ -365,27 +365,6 @@ TEST_F(NavigationTest, LoginResetKeyIgnoresOtherKeysAndClosedLoginWindow) {
 
 // ---------------------------------------------------------------- functions
 
-TEST_F(NavigationTest, SettingsNumberAndViewOfFunctions) {
-  struct row {
-    int function;
-    int view;
-    int settings;
-  };
-  const row rows[] = {{5, 5, 1}, {6, 6, 5}, {11, 1, 1}, {24, 1, 1}};
-  for (const row& r : rows) {
-    SCOPED_TRACE("function " + std::to_string(r.function));
-    ASSERT_EQ(
-        dvc_pnl_psm_page_stack_matrix::dvc_pnl_psm_get_instance()->dvc_pnl_psm_change_function(
-            r.function),
-        0);
-    probe* p = open(kA, r.function);
-    ASSERT_NE(p, nullptr);
-    EXPECT_EQ(p->get_original_function_id(), r.function);
-    EXPECT_EQ(p->get_view_function_id(), r.view);
-    EXPECT_EQ(p->get_function_id(), r.settings);
-  }
-}
-
 TEST_F(NavigationTest, ChangeFunctionPostsTheChangeEvenWhenRefused) {
   heard_.subscribe(886);
   probe* a = open(kA);
