@@ -176,6 +176,7 @@ std::size_t pump() {
   dvc_pnl_evh_panel_event event;
   // The queue is read anew after each delivery: events posted meanwhile come in this pump too.
   while (event_handler().take(event)) {
+    dispatch_scope scope;
     dispatcher().deliver(event);
     ++delivered;
   }
@@ -187,6 +188,7 @@ std::size_t posted_count() {
 }
 
 void deliver(const dvc_pnl_evh_panel_event& event) {
+  dispatch_scope scope;
   dispatcher().deliver(event);
 }
 

@@ -9,20 +9,6 @@
 namespace orvanta {
 namespace host {
 
-int host_icon_part::dvu_pnl_gcp_get_int_val(int attribute, int& value) const {
-  if (attribute != DVU_PNL_GCP_ATTR_ICON)
-    return 1;
-  value = icon_;
-  return 0;
-}
-
-int host_icon_part::dvu_pnl_gcp_set_int_val(int attribute, int value) {
-  if (attribute != DVU_PNL_GCP_ATTR_ICON)
-    return 1;
-  icon_ = value;
-  return 0;
-}
-
 bool frame_pixel(const unsigned char* img, int x, int y) {
   if (img == nullptr || x < 0 || x >= kFrameWidth || y < 0 || y >= kFrameHeight)
     return false;
@@ -64,18 +50,118 @@ void render_frame(dvu_pnl_gcp_components& gui, unsigned char* img) {
   draw_band(img, kIdBandTop, static_cast<unsigned>(gui.contents_id()));
   int y = kIconBandTop;
   for (const auto& [part_id, part] : gui.parts()) {
-    const auto* icon = dynamic_cast<const host_icon_part*>(part.get());
-    if (icon == nullptr)
+    int icon = 0;
+    if (part->kind() != dvu_pnl_gcp_part_kind::icon ||
+        part->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_ICON, icon) != 0)
       continue;
     // Bands that would run into the bottom border are left out.
     if (y + kBandHeight > kFrameHeight - 1)
       break;
-    draw_band(img, y, static_cast<unsigned>(icon->icon()));
+    draw_band(img, y, static_cast<unsigned>(icon));
     y += kBandHeight + 1;
   }
 }
 
 }  // namespace host
+
+// ---- parts ----
+
+int dvu_pnl_gcp_parts::dvu_pnl_gcp_get_int_val(int attribute, int& value) const {
+  auto it = ints_.find(attribute);
+  if (it == ints_.end())
+    return 1;
+  value = it->second;
+  return 0;
+}
+
+int dvu_pnl_gcp_parts::dvu_pnl_gcp_set_int_val(int attribute, int value) {
+  ints_[attribute] = value;
+  return 0;
+}
+
+int dvu_pnl_gcp_parts::dvu_pnl_gcp_get_str_val(int attribute, std::string& value) const {
+  auto it = strings_.find(attribute);
+  if (it == strings_.end())
+    return 1;
+  value = it->second;
+  return 0;
+}
+
+int dvu_pnl_gcp_parts::dvu_pnl_gcp_set_str_val(int attribute, const std::string& value) {
+  strings_[attribute] = value;
+  return 0;
+}
+
+namespace {
+
+bool fits(int cell, int width) {
+  return cell >= 0 && width > 0 && cell + width <= dvu_pnl_gcp_label::kCells;
+}
+
+}  // namespace
+
+int dvu_pnl_gcp_label::dvu_pnl_gcp_add_icon(int cell, int width, int resource) {
+  if (!fits(cell, width))
+    return 1;
+  items_.push_back({true, cell, width, resource, {}, 0});
+  return 0;
+}
+
+int dvu_pnl_gcp_label::dvu_pnl_gcp_add_text(int cell, int width, int resource,
+                                            unsigned long state) {
+  if (!fits(cell, width))
+    return 1;
+  items_.push_back({false, cell, width, resource, {}, state});
+  return 0;
+}
+
+int dvu_pnl_gcp_label::dvu_pnl_gcp_add_text(int cell, int width, const std::string& text,
+                                            unsigned long state) {
+  if (!fits(cell, width))
+    return 1;
+  items_.push_back({false, cell, width, -1, text, state});
+  return 0;
+}
+
+int dvu_pnl_gcp_list_row::dvu_pnl_gcp_set_int_val(int attribute, int value) {
+  if (attribute == DVU_PNL_GCP_ATTR_ROW_STAR)
+    dvu_pnl_gcp_parts::dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ROW_STAR_SHOWN, value);
+  return dvu_pnl_gcp_parts::dvu_pnl_gcp_set_int_val(attribute, value);
+}
+
+dvu_pnl_gcp_list::dvu_pnl_gcp_list() : dvu_pnl_gcp_parts(dvu_pnl_gcp_part_kind::list) {
+  dvu_pnl_gcp_clear_all_row();
+}
+
+int dvu_pnl_gcp_list::dvu_pnl_gcp_add_row(const dvu_pnl_gcp_list_row& row) {
+  rows_.push_back(row);
+  return 0;
+}
+
+int dvu_pnl_gcp_list::dvu_pnl_gcp_get_row(int index, dvu_pnl_gcp_list_row*& row) {
+  if (index < 0 || index >= dvu_pnl_gcp_get_max_row()) {
+    row = nullptr;
+    return 1;
+  }
+  row = &rows_[static_cast<std::size_t>(index)];
+  return 0;
+}
+
+int dvu_pnl_gcp_list::dvu_pnl_gcp_clear_all_row() {
+  rows_.clear();
+  dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_LIST_SELECT_ROW, 0);
+  dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_LIST_SCROLL_POS, 0);
+  return 0;
+}
+
+int dvu_pnl_gcp_list::set_scroll_amount(int amount) {
+  if (amount < 1)
+    return 1;
+  scroll_amount_ = amount;
+  return 0;
+}
+
+// ---- components ----
 
 dvu_pnl_gcp_parts* dvu_pnl_gcp_get_gui_parts_by_id(dvu_pnl_gcp_components* gui, int part_id) {
   if (gui == nullptr)

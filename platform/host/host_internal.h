@@ -30,18 +30,6 @@ class dvu_pnl_gcp_components {
 
 namespace host {
 
-// An icon part: it shows one icon resource, read and written as DVU_PNL_GCP_ATTR_ICON.
-class host_icon_part final : public dvu_pnl_gcp_parts {
- public:
-  explicit host_icon_part(int icon) : icon_(icon) {}
-  int dvu_pnl_gcp_get_int_val(int attribute, int& value) const override;
-  int dvu_pnl_gcp_set_int_val(int attribute, int value) override;
-  int icon() const { return icon_; }
-
- private:
-  int icon_;
-};
-
 // Draws the frame that a host draw of `gui` produces into `img` (kFrameBytes bytes).
 void render_frame(dvu_pnl_gcp_components& gui, unsigned char* img);
 
@@ -49,6 +37,7 @@ void render_frame(dvu_pnl_gcp_components& gui, unsigned char* img);
 void reset_pages();
 void reset_events();
 void reset_devices();
+void reset_layouts();
 
 }  // namespace host
 }  // namespace orvanta

@@ -1,6 +1,7 @@
 // Host page stack, window list and contents managers: pages per function and their life cycle.
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -102,7 +103,11 @@ class host_page_stack final : public dvc_pnl_psm_page_stack_matrix {
     });
     if (page == nullptr)
       return 1;
-    close_page(function, page->seq);
+    const std::uint64_t seq = page->seq;
+    run_or_defer([this, function, seq] {
+      if (by_seq(function, seq) != nullptr)
+        close_page(function, seq);
+    });
     return 0;
   }
 
@@ -111,18 +116,20 @@ class host_page_stack final : public dvc_pnl_psm_page_stack_matrix {
                    std::to_string(state));
     if (!function_ok(function))
       return 1;
-    // The pages of the cell as they stand now, top first; pages that their close handlers open
-    // meanwhile are not part of this clear.
+    // The pages of the cell as they stand now, top first; pages opened meanwhile (by close
+    // handlers, or later in the dispatch that asked) are not part of this clear.
     std::vector<std::uint64_t> doomed;
     const auto& list = pages_[function];
     for (auto it = list.rbegin(); it != list.rend(); ++it) {
       if ((*it)->group == group && (*it)->state == state)
         doomed.push_back((*it)->seq);
     }
-    for (std::uint64_t seq : doomed) {
-      if (by_seq(function, seq) != nullptr)
-        close_page(function, seq);
-    }
+    run_or_defer([this, function, doomed] {
+      for (std::uint64_t seq : doomed) {
+        if (by_seq(function, seq) != nullptr)
+          close_page(function, seq);
+      }
+    });
     return 0;
   }
 
@@ -196,9 +203,32 @@ class host_page_stack final : public dvc_pnl_psm_page_stack_matrix {
     }
     shown_ = kFirstShownFunction;
     log_.clear();
+    deferred_.clear();
+    dispatch_depth_ = 0;
+  }
+
+  // A dispatch of the framework into the library begins or ends. Closes asked for while one is
+  // on are carried out, in the order asked, when the outermost one ends: a handler that closes
+  // its own page (or clears its function) still runs on a live object.
+  void enter_dispatch() { ++dispatch_depth_; }
+  void leave_dispatch() {
+    if (dispatch_depth_ == 0 || --dispatch_depth_ != 0)
+      return;
+    // Close handlers run here may ask for more closes; with no dispatch on, those run at once.
+    std::vector<std::function<void()>> work = std::move(deferred_);
+    deferred_.clear();
+    for (auto& step : work)
+      step();
   }
 
  private:
+  void run_or_defer(std::function<void()> step) {
+    if (dispatch_depth_ > 0)
+      deferred_.push_back(std::move(step));
+    else
+      step();
+  }
+
   host_page* top_of(int function) {
     const auto& list = list_of(function);
     return list.empty() ? nullptr : list.back().get();
@@ -246,6 +276,8 @@ class host_page_stack final : public dvc_pnl_psm_page_stack_matrix {
   std::map<int, std::vector<std::unique_ptr<host_page>>> pages_;  // by function, bottom first
   int shown_ = kFirstShownFunction;
   std::uint64_t next_seq_ = 1;
+  int dispatch_depth_ = 0;
+  std::vector<std::function<void()>> deferred_;
   std::vector<std::string> log_;
   contents_creator creator_;
 };
@@ -316,14 +348,36 @@ gui_script* gui_of(int contents_id, int function) {
   return page == nullptr ? nullptr : &page->gui->script();
 }
 
-void add_icon_part(int contents_id, int function, int part_id, int icon) {
+dvu_pnl_gcp_parts* add_part(int contents_id, int function, int part_id,
+                            std::unique_ptr<dvu_pnl_gcp_parts> part) {
   host_page* page = stack().find_first(
       function, [contents_id](const host_page& p) { return p.contents_id == contents_id; });
   if (page == nullptr) {
-    throw std::invalid_argument("add_icon_part: no open page " + std::to_string(contents_id) +
+    throw std::invalid_argument("add_part: no open page " + std::to_string(contents_id) +
                                 " in function " + std::to_string(function));
   }
-  page->gui->parts()[part_id] = std::make_unique<host_icon_part>(icon);
+  auto& slot = page->gui->parts()[part_id];
+  slot = std::move(part);
+  return slot.get();
+}
+
+void add_icon_part(int contents_id, int function, int part_id, int icon) {
+  auto part = std::make_unique<dvu_pnl_gcp_parts>(dvu_pnl_gcp_part_kind::icon);
+  part->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ICON, icon);
+  add_part(contents_id, function, part_id, std::move(part));
+}
+
+dvu_pnl_gcp_list* add_list_part(int contents_id, int function, int part_id) {
+  return static_cast<dvu_pnl_gcp_list*>(
+      add_part(contents_id, function, part_id, std::make_unique<dvu_pnl_gcp_list>()));
+}
+
+dispatch_scope::dispatch_scope() {
+  stack().enter_dispatch();
+}
+
+dispatch_scope::~dispatch_scope() {
+  stack().leave_dispatch();
 }
 
 void reset_pages() {

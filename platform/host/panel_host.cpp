@@ -13,6 +13,7 @@ void reset() {
   reset_events();
   host_clock::instance().reset();
   reset_devices();
+  reset_layouts();
   host_data_manager::instance().reset();
   trace_sink::instance().clear();
   clear_value_faults();

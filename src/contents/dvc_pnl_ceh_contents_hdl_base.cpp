@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "contents/dvc_pnl_ceh_event_proxy.h"
+#include "orvanta/platform/dvc_pnl_cly_contents_layout.h"
 #include "orvanta/platform/dvc_pnl_pdm_keys.h"
 #include "orvanta/platform/dvc_pnl_psm_page_stack_matrix.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util.h"
@@ -41,6 +42,12 @@ constexpr unsigned kUserAuthenticInfoSize = 898;
 // Buzzer patterns.
 constexpr BUZZER_PATTERN_ID kBuzzerRefuse = 2;
 constexpr BUZZER_PATTERN_ID kBuzzerReset = 3;
+
+// The guest's authentication id: a guest has not logged in to a function.
+constexpr int kGuestUserId = 9001;
+
+// The list part that a reload after a function login keeps in place.
+constexpr int kPartList = 64;
 
 // Maintenance mode: its start and reset keys sound.
 constexpr int kFuncMaintenance = 11;
@@ -461,15 +468,83 @@ int dvc_pnl_ceh_contents_hdl_base::dvc_pnl_ceh_login_reset_key_process(
 
 // ---------------------------------------------------------------- activation
 
+namespace {
+
+// Reads an application-scope integer for the activation; a failed read counts as 0.
+int read_login_state(const std::string& key) {
+  int value = 0;
+  const int ret = dvc_pnl_ceh_contents_hdl_get_int_from_dm_by_application(key, value);
+  if (ret != 0) {
+    CEH_ERR("%s read failed ret_code = %d", key.c_str(), ret);
+    return 0;
+  }
+  return value;
+}
+
+}  // namespace
+
 void dvc_pnl_ceh_contents_hdl_base::dvc_pnl_ceh_on_activate_pre() {
-  // The refresh after a function login (reload or redraw by the layout's attribute word) comes
-  // with the contents layouts; until they exist every page comes back through its activation.
+  const int authentication_id = read_login_state(DVC_PNL_PDM_AUTHENTICATION_ID);
+  const int function_login = read_login_state(DVC_PNL_PDM_FUNCTION_LOGIN_SETTING);
+  const int mode = read_login_state(DVC_PNL_PDM_AUTHENTICATION_MODE);
+  const bool after_function_login =
+      (mode == 1 || mode == 3) && function_login == 1 && authentication_id != kGuestUserId;
+  if (!after_function_login) {
+    dvc_pnl_ceh_on_activate();
+    return;
+  }
+
+  // A user who logged in on the way may see other rows or texts: the layout says whether the
+  // page reloads, only redraws, or both.
+  std::string layout_name;
+  unsigned long attributes = 0;
+  if (dvc_pnl_cly_get_layout_name(contents_id_, layout_name, attributes) != 0)
+    attributes = 0;
+  if ((attributes & DVC_PNL_CLY_ATTR_RELOAD_ON_FUNCTION_LOGIN) != 0)
+    reload_for_function_login();
+  if ((attributes & DVC_PNL_CLY_ATTR_REDRAW_ON_FUNCTION_LOGIN) != 0) {
+    draw();
+    return;
+  }
   dvc_pnl_ceh_on_activate();
+}
+
+void dvc_pnl_ceh_contents_hdl_base::reload_for_function_login() {
+  auto* list = dynamic_cast<dvu_pnl_gcp_list*>(dvu_pnl_gcp_get_gui_parts_by_id(gui_, kPartList));
+  int rows_before = 0;
+  int select_row = 0;
+  int scroll_pos = 0;
+  if (list != nullptr) {
+    rows_before = list->dvu_pnl_gcp_get_max_row();
+    list->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_LIST_SELECT_ROW, select_row);
+    list->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_LIST_SCROLL_POS, scroll_pos);
+    list->dvu_pnl_gcp_clear_all_row();
+  }
+  // Screens that send lock words or the like while loading look at this flag.
+  dvc_pnl_ceh_contents_hdl_set_int_to_dm_by_application(DVC_PNL_PDM_CEH_FUNCTION_LOGIN_PRE_LOADING,
+                                                        1);
+  dvc_pnl_ceh_on_load();
+  dvc_pnl_ceh_contents_hdl_set_int_to_dm_by_application(DVC_PNL_PDM_CEH_FUNCTION_LOGIN_PRE_LOADING,
+                                                        0);
+  if (list == nullptr)
+    return;
+  // A list that lost rows to the new user's rights starts again from its top.
+  if (list->dvu_pnl_gcp_get_max_row() < rows_before) {
+    select_row = 0;
+    scroll_pos = 0;
+  }
+  list->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_LIST_SELECT_ROW, select_row);
+  list->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_LIST_SCROLL_POS, scroll_pos);
 }
 
 // ---------------------------------------------------------------- drawing and devices
 
 void dvc_pnl_ceh_contents_hdl_base::draw() {
+  swap_remote_icons();
+  dvc_pnl_ceh_draw(nullptr);
+}
+
+void dvc_pnl_ceh_contents_hdl_base::swap_remote_icons() {
   dvu_pnl_gcp_parts* function_icon =
       dvu_pnl_gcp_get_gui_parts_by_id(gui_, DVC_PNL_CEH_PART_FUNCTION_ICON);
   if (function_icon != nullptr) {
@@ -490,7 +565,11 @@ void dvc_pnl_ceh_contents_hdl_base::draw() {
       }
     }
   }
-  dvc_pnl_ceh_draw(nullptr);
+}
+
+void dvc_pnl_ceh_contents_hdl_base::draw_lock_screen() {
+  swap_remote_icons();
+  dvc_pnl_ceh_draw_lock_screen(nullptr);
 }
 
 int dvc_pnl_ceh_contents_hdl_base::set_timer(int id, int ms) {

@@ -47,6 +47,8 @@ class dvc_pnl_ceh_contents_hdl_base : public dvc_pnl_ceh_contents_base {
 
   // Redraw: keeps the remote panel icons right, then draws.
   void draw();
+  // The same for the remote-operation lock screen, which draws into the lock screen image.
+  void draw_lock_screen();
   int set_timer(int id, int ms);
   int kill_timer(int id);
   int buzzer(BUZZER_PATTERN_ID pattern);
@@ -95,6 +97,12 @@ class dvc_pnl_ceh_contents_hdl_base : public dvc_pnl_ceh_contents_base {
 
   static std::map<int, int> child_opener_;
   static std::vector<dvc_pnl_ceh_contents_hdl_base*> disable_sleep_and_reset_instance_;
+
+ private:
+  // Shows the remote panel icon on the function icon's part while a remote panel is connected.
+  void swap_remote_icons();
+  // Loads the page again after a function login, keeping the list's place where it can.
+  void reload_for_function_login();
 };
 
 }  // namespace orvanta

@@ -34,6 +34,8 @@ probe::~probe() {
 
 void probe::dvc_pnl_ceh_on_load() {
   note("load " + std::to_string(contents_id_));
+  if (auto it = hooks_by_id().find(contents_id_); it != hooks_by_id().end() && it->second.load)
+    it->second.load(*this);
   draw();
 }
 
@@ -121,6 +123,7 @@ dvc_pnl_evh_panel_event key_event(int id, long source) {
 }
 
 int press(int id, long source) {
+  host::dispatch_scope scope;
   return proxy()->dvc_pnl_ceh_gui_event_proc(key_event(id, source));
 }
 

@@ -31,6 +31,7 @@ struct hooks {
   using event_hook = std::function<int(probe&, dvc_pnl_evh_panel_event&)>;
   using notify_hook = std::function<int(probe&, DVU_PNL_GCP_NOTIFY*)>;
 
+  std::function<void(probe&)> load;  // runs in the load, before its draw
   event_hook key;
   event_hook panel;
   std::function<void(probe&, int)> timer;

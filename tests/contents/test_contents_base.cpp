@@ -619,6 +619,29 @@ TEST_F(ContentsBaseTest, RemotePanelIconsFollowTheConnection) {
   EXPECT_EQ(icon_of(a, DVC_PNL_CEH_PART_REMOTE_ICON), 102);
 }
 
+TEST_F(ContentsBaseTest, LockScreenRedrawSwapsIconsIntoTheLockImage) {
+  set_app_int(DVC_PNL_PDM_REMOTE_PANEL_PASSWORD_OPE_SRC, 1);
+  probe* lock = open(kLockScreen);
+  ASSERT_NE(lock, nullptr);
+  host::add_icon_part(kLockScreen, kFunc, DVC_PNL_CEH_PART_FUNCTION_ICON, 50);
+  host::add_icon_part(kLockScreen, kFunc, DVC_PNL_CEH_PART_REMOTE_ICON, 0);
+  set_remote_status(2);
+  host::devices().lock_screen_frames.clear();
+  lock->draw_lock_screen();
+  EXPECT_EQ(icon_of(lock, DVC_PNL_CEH_PART_FUNCTION_ICON), 335);
+  EXPECT_EQ(icon_of(lock, DVC_PNL_CEH_PART_REMOTE_ICON), 336);
+  ASSERT_EQ(host::devices().lock_screen_frames.size(), 1u);
+  EXPECT_EQ(host::devices().lock_screen_frames[0].source, 1);
+
+  // Any other page changes its icons but sends no lock image.
+  probe* a = open(kA);
+  host::add_icon_part(kA, kFunc, DVC_PNL_CEH_PART_FUNCTION_ICON, 60);
+  host::add_icon_part(kA, kFunc, DVC_PNL_CEH_PART_REMOTE_ICON, 0);
+  a->draw_lock_screen();
+  EXPECT_EQ(icon_of(a, DVC_PNL_CEH_PART_FUNCTION_ICON), 335);
+  EXPECT_EQ(host::devices().lock_screen_frames.size(), 1u);
+}
+
 TEST_F(ContentsBaseTest, RemotePanelIconsNeedBothParts) {
   probe* a = open(kA);
   host::add_icon_part(kA, kFunc, DVC_PNL_CEH_PART_FUNCTION_ICON, 50);

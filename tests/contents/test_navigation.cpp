@@ -192,6 +192,24 @@ TEST_F(NavigationTest, BackToTopClearsTheFunctionWhenTheBasePageIsNotOpen) {
   EXPECT_TRUE(traced("DVC_PNL_CEH_ERR_NONE != ret_code")) << trace_dump();
 }
 
+TEST_F(NavigationTest, BackToTopFromAKeyClearsOnlyAtTheEndOfTheDispatch) {
+  open(kA);
+  open(kB);
+  std::vector<int> open_in_handler;
+  EXPECT_EQ(in_dispatch(kB,
+                        [&open_in_handler](probe& self) {
+                          const int ret = self.back_to_top();
+                          // The handler still runs on a live page.
+                          open_in_handler = open_ids();
+                          self.buzzer(1);
+                          return ret;
+                        }),
+            0);
+  EXPECT_EQ(open_in_handler, (std::vector<int>{kA, kB}));
+  EXPECT_TRUE(open_ids().empty());
+  EXPECT_EQ(journal_with("destroy"), (std::vector<std::string>{"destroy 101", "destroy 100"}));
+}
+
 TEST_F(NavigationTest, BaseScreenOfSendFollowsThePageScopeValue) {
   ASSERT_EQ(
       dvc_pnl_psm_page_stack_matrix::dvc_pnl_psm_get_instance()->dvc_pnl_psm_change_function(3), 0);

@@ -18,6 +18,7 @@
 #include "orvanta/host/panel_host.h"
 #include "orvanta/host/trace_sink.h"
 #include "orvanta/host/value_faults.h"
+#include "orvanta/platform/dvc_pnl_cly_contents_layout.h"
 #include "orvanta/platform/dvc_pnl_pdm_keys.h"
 #include "orvanta/platform/emw_trace.h"
 #include "orvanta/platform/osw.h"
@@ -594,6 +595,61 @@ TEST_F(PageStack, CloseOfAnAbsentPageFailsAndChangesNothing) {
   EXPECT_EQ(page_stack_log().size(), 6u) << "failed calls are logged too";
 }
 
+TEST_F(PageStack, ClosesAndClearsInsideADispatchWaitForItsEnd) {
+  psm.dvc_pnl_psm_open(0, 1, 2, 100, 1);
+  psm.dvc_pnl_psm_open(0, 1, 2, 200, 1);
+  psm.dvc_pnl_psm_open(1, 1, 0, 300, 1);
+  calls.clear();
+  {
+    dispatch_scope outer;
+    {
+      dispatch_scope inner;
+      ASSERT_EQ(psm.dvc_pnl_psm_close(1, 1, 0, 300), 0);
+      ASSERT_EQ(psm.dvc_pnl_psm_clear(0, 1, 2), 0);
+      // An absent page is refused at once, as outside a dispatch.
+      EXPECT_NE(psm.dvc_pnl_psm_close(1, 1, 0, 999), 0);
+      // Opens are not held back; a page opened after the clear is not part of it.
+      ASSERT_EQ(psm.dvc_pnl_psm_open(0, 1, 2, 400, 1), 0);
+    }
+    EXPECT_EQ(ids_of(1), (std::vector<int>{100, 200, 400, 300})) << "the outer scope holds";
+    calls.clear();
+  }
+  EXPECT_EQ(calls,
+            (std::vector<std::string>{"close 300", "destroy 300", "activate_pre 400", "close 200",
+                                      "destroy 200", "close 100", "destroy 100"}));
+  EXPECT_EQ(ids_of(1), (std::vector<int>{400}));
+  // With no dispatch on, a close happens at once again.
+  ASSERT_EQ(psm.dvc_pnl_psm_close(0, 1, 2, 400), 0);
+  EXPECT_TRUE(ids_of(1).empty());
+}
+
+TEST_F(PageStack, ResetDropsClosesStillWaiting) {
+  psm.dvc_pnl_psm_open(1, 1, 0, 100, 1);
+  {
+    dispatch_scope scope;
+    psm.dvc_pnl_psm_close(1, 1, 0, 100);
+    reset();
+    ASSERT_EQ(psm.dvc_pnl_psm_open(1, 1, 0, 100, 1), 0);
+  }
+  EXPECT_EQ(ids_of(1), (std::vector<int>{100})) << "the close asked before the reset is gone";
+}
+
+TEST_F(PageStack, LayoutAttributeWordsAnswerZeroUntilSet) {
+  std::string name;
+  unsigned long attributes = 99;
+  ASSERT_EQ(dvc_pnl_cly_get_layout_name(100, name, attributes), 0);
+  EXPECT_EQ(attributes, 0u);
+  EXPECT_EQ(name, "100");
+  set_layout_attributes(100, 3);
+  dvc_pnl_cly_get_layout_name(100, name, attributes);
+  EXPECT_EQ(attributes, 3u);
+  dvc_pnl_cly_get_layout_name(101, name, attributes);
+  EXPECT_EQ(attributes, 0u);
+  reset();
+  dvc_pnl_cly_get_layout_name(100, name, attributes);
+  EXPECT_EQ(attributes, 0u);
+}
+
 TEST_F(PageStack, PagesOfAFunctionNotShownAreNeitherDeactivatedNorActivated) {
   ASSERT_EQ(psm.dvc_pnl_psm_get_function(), 1);
   psm.dvc_pnl_psm_open(1, 2, 0, 100, 1);
@@ -844,23 +900,83 @@ TEST_F(GuiComponents, AnUnchangedDrawOrAMissingArgumentAnswersZero) {
   EXPECT_EQ(script->draws, 1);
 }
 
-TEST_F(GuiComponents, IconPartsAnswerTheIconAttributeOnly) {
+TEST_F(GuiComponents, PartsKeepTheirAttributesStateAndVisibility) {
   EXPECT_EQ(dvu_pnl_gcp_get_gui_parts_by_id(gui, 7), nullptr);
   add_icon_part(0x2A5, 1, 7, 300);
   dvu_pnl_gcp_parts* part = dvu_pnl_gcp_get_gui_parts_by_id(gui, 7);
   ASSERT_NE(part, nullptr);
+  EXPECT_EQ(part->kind(), dvu_pnl_gcp_part_kind::icon);
   int value = 0;
   ASSERT_EQ(part->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_ICON, value), 0);
   EXPECT_EQ(value, 300);
   ASSERT_EQ(part->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ICON, 301), 0);
   part->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_ICON, value);
   EXPECT_EQ(value, 301);
+  // An attribute never set reads as a failure and leaves the out-argument alone.
   value = -5;
-  EXPECT_NE(part->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_ICON + 1, value), 0);
+  EXPECT_NE(part->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_TEXT_RESOURCE, value), 0);
   EXPECT_EQ(value, -5);
-  EXPECT_NE(part->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ICON + 1, 1), 0);
+  std::string text = "kept";
+  EXPECT_NE(part->dvu_pnl_gcp_get_str_val(0, text), 0);
+  EXPECT_EQ(text, "kept");
+  ASSERT_EQ(part->dvu_pnl_gcp_set_str_val(0, "COPY"), 0);
+  ASSERT_EQ(part->dvu_pnl_gcp_get_str_val(0, text), 0);
+  EXPECT_EQ(text, "COPY");
+  EXPECT_TRUE(part->dvu_pnl_gcp_is_visible());
+  part->dvu_pnl_gcp_set_visible(false);
+  part->dvu_pnl_gcp_set_state(0x4000);
+  EXPECT_FALSE(part->dvu_pnl_gcp_is_visible());
+  EXPECT_EQ(part->dvu_pnl_gcp_get_state(), 0x4000u);
   EXPECT_EQ(dvu_pnl_gcp_get_gui_parts_by_id(nullptr, 7), nullptr);
   EXPECT_THROW(add_icon_part(0x2A5, 2, 7, 1), std::invalid_argument);
+}
+
+TEST_F(GuiComponents, ListKeepsCopiesOfRowsAndClearingResetsItsPositions) {
+  dvu_pnl_gcp_list* list = add_list_part(0x2A5, 1, 64);
+  ASSERT_EQ(dvu_pnl_gcp_get_gui_parts_by_id(gui, 64), list);
+  int value = -1;
+  ASSERT_EQ(list->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_LIST_SELECT_ROW, value), 0);
+  EXPECT_EQ(value, 0);
+  {
+    dvu_pnl_gcp_list_row row;
+    ASSERT_EQ(row.dvu_pnl_gcp_add_icon(0, 2, 12), 0);
+    ASSERT_EQ(row.dvu_pnl_gcp_add_text(2, 19, "Paper", 0x4000), 0);
+    EXPECT_NE(row.dvu_pnl_gcp_add_text(20, 2, 5), 0);  // runs past cell 21
+    EXPECT_NE(row.dvu_pnl_gcp_add_icon(-1, 1, 5), 0);
+    ASSERT_EQ(list->dvu_pnl_gcp_add_row(row), 0);
+    row.dvu_pnl_gcp_clear_all_text_icon();  // the list holds its own copy
+    ASSERT_EQ(list->dvu_pnl_gcp_add_row(row), 0);
+  }
+  EXPECT_EQ(list->dvu_pnl_gcp_get_max_row(), 2);
+  dvu_pnl_gcp_list_row* first = nullptr;
+  ASSERT_EQ(list->dvu_pnl_gcp_get_row(0, first), 0);
+  ASSERT_EQ(first->items().size(), 2u);
+  EXPECT_EQ(first->items()[1].text, "Paper");
+  EXPECT_EQ(first->items()[1].state, 0x4000u);
+  dvu_pnl_gcp_list_row* missing = first;
+  EXPECT_NE(list->dvu_pnl_gcp_get_row(2, missing), 0);
+  EXPECT_EQ(missing, nullptr);
+  EXPECT_NE(list->dvu_pnl_gcp_get_row(-1, missing), 0);
+
+  // A star set or cleared on a row reads the same in both star attributes.
+  first->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ROW_STAR, 1);
+  ASSERT_EQ(first->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_ROW_STAR_SHOWN, value), 0);
+  EXPECT_EQ(value, 1);
+  first->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ROW_STAR, 0);
+  first->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_ROW_STAR_SHOWN, value);
+  EXPECT_EQ(value, 0);
+
+  list->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_LIST_SELECT_ROW, 1);
+  list->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_LIST_SCROLL_POS, 1);
+  ASSERT_EQ(list->dvu_pnl_gcp_clear_all_row(), 0);
+  EXPECT_EQ(list->dvu_pnl_gcp_get_max_row(), 0);
+  list->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_LIST_SELECT_ROW, value);
+  EXPECT_EQ(value, 0);
+  list->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_LIST_SCROLL_POS, value);
+  EXPECT_EQ(value, 0);
+  EXPECT_NE(list->set_scroll_amount(0), 0);
+  ASSERT_EQ(list->set_scroll_amount(3), 0);
+  EXPECT_EQ(list->scroll_amount(), 3);
 }
 
 TEST_F(GuiComponents, KeysAreRecordedAndAnsweredWithTheScriptedNotify) {

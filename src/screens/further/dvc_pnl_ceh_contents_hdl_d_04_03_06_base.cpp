@@ -1,5 +1,7 @@
-// Construction of dvc_pnl_ceh_contents_hdl_d_04_03_06: file detail pages.
+// dvc_pnl_ceh_contents_hdl_d_04_03_06: file detail pages.
 #include "screens/further/dvc_pnl_ceh_contents_hdl_d_04_03_06.h"
+
+#include "screens/further/dvc_pnl_ceh_contents_hdl_further_screen.h"
 
 namespace orvanta {
 
@@ -8,5 +10,14 @@ dvc_pnl_ceh_contents_hdl_d_04_03_06::dvc_pnl_ceh_contents_hdl_d_04_03_06(
     : dvc_pnl_ceh_contents_hdl_base(contents_id, gui) {}
 
 dvc_pnl_ceh_contents_hdl_d_04_03_06::~dvc_pnl_ceh_contents_hdl_d_04_03_06() = default;
+
+// No behaviour of its own is defined for this family: it shows its title and goes back.
+void dvc_pnl_ceh_contents_hdl_d_04_03_06::dvc_pnl_ceh_on_load() {
+  further_screen::load(*this);
+}
+
+int dvc_pnl_ceh_contents_hdl_d_04_03_06::dvc_pnl_ceh_on_key(dvc_pnl_evh_panel_event& event) {
+  return further_screen::on_key(*this, event);
+}
 
 }  // namespace orvanta

@@ -1,5 +1,7 @@
-// Construction of dvc_pnl_ceh_contents_hdl_d_05_01: status of a running update or operation.
+// dvc_pnl_ceh_contents_hdl_d_05_01: status of a running update or operation.
 #include "screens/further/dvc_pnl_ceh_contents_hdl_d_05_01.h"
+
+#include "screens/further/dvc_pnl_ceh_contents_hdl_further_screen.h"
 
 namespace orvanta {
 
@@ -8,5 +10,14 @@ dvc_pnl_ceh_contents_hdl_d_05_01::dvc_pnl_ceh_contents_hdl_d_05_01(int contents_
     : dvc_pnl_ceh_contents_hdl_base(contents_id, gui) {}
 
 dvc_pnl_ceh_contents_hdl_d_05_01::~dvc_pnl_ceh_contents_hdl_d_05_01() = default;
+
+// No behaviour of its own is defined for this family: it shows its title and goes back.
+void dvc_pnl_ceh_contents_hdl_d_05_01::dvc_pnl_ceh_on_load() {
+  further_screen::load(*this);
+}
+
+int dvc_pnl_ceh_contents_hdl_d_05_01::dvc_pnl_ceh_on_key(dvc_pnl_evh_panel_event& event) {
+  return further_screen::on_key(*this, event);
+}
 
 }  // namespace orvanta

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -71,6 +72,19 @@ struct page_record {
   unsigned order;
   dvc_pnl_ceh_contents_interface* contents;
 };
+// Marks a dispatch of the framework into the library (a key, an event, a timer expiry): page
+// closes and clears asked for while a scope is alive wait, in the order asked, until the
+// outermost scope ends, so that a handler never runs on a page that is already gone. Opens take
+// effect at once. deliver() and pump() open a scope around each event; whoever calls the
+// proxy's key entry opens one around the call.
+class dispatch_scope {
+ public:
+  dispatch_scope();
+  ~dispatch_scope();
+  dispatch_scope(const dispatch_scope&) = delete;
+  dispatch_scope& operator=(const dispatch_scope&) = delete;
+};
+
 // Open pages of `function`, bottom first (the window order: by group, then order, then the
 // sequence of opening).
 std::vector<page_record> pages_of(int function);
@@ -91,9 +105,17 @@ struct gui_script {
 };
 // The script of the components of the open page `contents_id` of `function`, or nullptr.
 gui_script* gui_of(int contents_id, int function);
-// Adds (or replaces) an icon part with `part_id` showing `icon` to those components. Throws
+// Adds (or replaces) the part `part_id` of those components and answers it. Throws
 // std::invalid_argument when no such page is open.
+dvu_pnl_gcp_parts* add_part(int contents_id, int function, int part_id,
+                            std::unique_ptr<dvu_pnl_gcp_parts> part);
+// The same for an icon part showing `icon`, and for an empty list part.
 void add_icon_part(int contents_id, int function, int part_id, int icon);
+dvu_pnl_gcp_list* add_list_part(int contents_id, int function, int part_id);
+
+// The attribute word that dvc_pnl_cly_get_layout_name answers for `contents_id` (0 until set;
+// reset() clears every word).
+void set_layout_attributes(int contents_id, unsigned long attributes);
 
 // The LCD frame: 128x64 pixels, row-major, 16 bytes a row, most significant bit leftmost,
 // 1 = dark.
