@@ -139,7 +139,7 @@ int dvu_pnl_gcp_list::dvu_pnl_gcp_add_row(const dvu_pnl_gcp_list_row& row) {
 }
 
 int dvu_pnl_gcp_list::dvu_pnl_gcp_get_row(int index, dvu_pnl_gcp_list_row*& row) {
-  if (index < 0 || index >= dvu_pnl_gcp_get_max_row()) {
+  if (index < 0 || index > dvu_pnl_gcp_get_max_row()) {
     row = nullptr;
     return 1;
   }

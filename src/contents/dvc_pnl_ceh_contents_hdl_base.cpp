@@ -515,7 +515,7 @@ void dvc_pnl_ceh_contents_hdl_base::reload_for_function_login() {
   int select_row = 0;
   int scroll_pos = 0;
   if (list != nullptr) {
-    rows_before = list->dvu_pnl_gcp_get_max_row();
+    rows_before = list->dvu_pnl_gcp_get_max_row() + 1;
     list->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_LIST_SELECT_ROW, select_row);
     list->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_LIST_SCROLL_POS, scroll_pos);
     list->dvu_pnl_gcp_clear_all_row();
@@ -529,7 +529,7 @@ void dvc_pnl_ceh_contents_hdl_base::reload_for_function_login() {
   if (list == nullptr)
     return;
   // A list that lost rows to the new user's rights starts again from its top.
-  if (list->dvu_pnl_gcp_get_max_row() < rows_before) {
+  if (list->dvu_pnl_gcp_get_max_row() + 1 < rows_before) {
     select_row = 0;
     scroll_pos = 0;
   }

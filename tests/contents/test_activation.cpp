@@ -98,7 +98,7 @@ TEST_P(FunctionLoginRefresh, ComingBackToTheTop) {
   int rows_seen_at_load = -1;
   hooks_by_id()[kA].load = [&](probe& self) {
     pre_loading_seen = get_app_int(DVC_PNL_PDM_CEH_FUNCTION_LOGIN_PRE_LOADING);
-    rows_seen_at_load = list_of(self)->dvu_pnl_gcp_get_max_row();
+    rows_seen_at_load = list_of(self)->dvu_pnl_gcp_get_max_row() + 1;
     fill(*list_of(self), c.rows_on_reload);
   };
   const int draws_before = host::gui_of(kA, kFunc)->draws;
@@ -114,7 +114,7 @@ TEST_P(FunctionLoginRefresh, ComingBackToTheTop) {
     EXPECT_EQ(pre_loading_seen, 1);
     EXPECT_EQ(get_app_int(DVC_PNL_PDM_CEH_FUNCTION_LOGIN_PRE_LOADING), 0);
   }
-  EXPECT_EQ(list->dvu_pnl_gcp_get_max_row(), c.reloads ? c.rows_on_reload : kRowsBefore);
+  EXPECT_EQ(list->dvu_pnl_gcp_get_max_row() + 1, c.reloads ? c.rows_on_reload : kRowsBefore);
   EXPECT_EQ(list_int(*list, DVU_PNL_GCP_ATTR_LIST_SELECT_ROW), c.select_after);
   EXPECT_EQ(list_int(*list, DVU_PNL_GCP_ATTR_LIST_SCROLL_POS), c.scroll_after);
   // Every way back to the top draws the page once more at least.

@@ -947,7 +947,7 @@ TEST_F(GuiComponents, ListKeepsCopiesOfRowsAndClearingResetsItsPositions) {
     row.dvu_pnl_gcp_clear_all_text_icon();  // the list holds its own copy
     ASSERT_EQ(list->dvu_pnl_gcp_add_row(row), 0);
   }
-  EXPECT_EQ(list->dvu_pnl_gcp_get_max_row(), 2);
+  EXPECT_EQ(list->dvu_pnl_gcp_get_max_row(), 1) << "the index of the last row";
   dvu_pnl_gcp_list_row* first = nullptr;
   ASSERT_EQ(list->dvu_pnl_gcp_get_row(0, first), 0);
   ASSERT_EQ(first->items().size(), 2u);
@@ -969,7 +969,7 @@ TEST_F(GuiComponents, ListKeepsCopiesOfRowsAndClearingResetsItsPositions) {
   list->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_LIST_SELECT_ROW, 1);
   list->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_LIST_SCROLL_POS, 1);
   ASSERT_EQ(list->dvu_pnl_gcp_clear_all_row(), 0);
-  EXPECT_EQ(list->dvu_pnl_gcp_get_max_row(), 0);
+  EXPECT_EQ(list->dvu_pnl_gcp_get_max_row(), -1);
   list->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_LIST_SELECT_ROW, value);
   EXPECT_EQ(value, 0);
   list->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_LIST_SCROLL_POS, value);

@@ -101,8 +101,8 @@ class dvu_pnl_gcp_list : public dvu_pnl_gcp_parts {
   int dvu_pnl_gcp_add_row(const dvu_pnl_gcp_list_row& row);
   // The row at `index`; 0, or 1 with `row` nullptr when there is none.
   int dvu_pnl_gcp_get_row(int index, dvu_pnl_gcp_list_row*& row);
-  // The number of rows.
-  int dvu_pnl_gcp_get_max_row() const { return static_cast<int>(rows_.size()); }
+  // The index of the last row: the number of rows less one, -1 for an empty list.
+  int dvu_pnl_gcp_get_max_row() const { return static_cast<int>(rows_.size()) - 1; }
   // Drops every row; selection and scroll position go back to 0.
   int dvu_pnl_gcp_clear_all_row();
   // How many rows one cursor step moves.
