@@ -111,22 +111,25 @@ TEST_F(SimulatedMachine, IsTheCommandMediatorOfThePanel) {
 // ---- the node tree ----
 
 TEST_F(SimulatedMachine, AGroupReadNestsEveryEntryUnderItsFullPath) {
-  // A binary leaf among them.
-  machine().set_node("0.230.3313.4154", binary_value({0x00, 0xff}));
+  // A subtree of its own, so that the default model's nodes don't take part; a binary leaf among
+  // them.
+  machine().set_int("0.9100.231.2903.2904", 0);
+  machine().set_int("0.9100.231.2903.2905", 1);
+  machine().set_node("0.9100.3313.4154", binary_value({0x00, 0xff}));
   dvc_pnl_cmm_value got;
-  ASSERT_EQ(get("0.230", got), 0);
+  ASSERT_EQ(get("0.9100", got), 0);
   dvc_pnl_cmm_valueset set;
   ASSERT_EQ(got.dvc_pnl_cmm_get_valueset(set), 0);
-  EXPECT_TRUE(sets_equal(set, make_valueset({{"0.230.231.2903.2904", 0L},
-                                             {"0.230.231.2903.2905", 1L},
-                                             {"0.230.3313.4154", test::bytes{0x00, 0xff}}},
+  EXPECT_TRUE(sets_equal(set, make_valueset({{"0.9100.231.2903.2904", 0L},
+                                             {"0.9100.231.2903.2905", 1L},
+                                             {"0.9100.3313.4154", test::bytes{0x00, 0xff}}},
                                             3)));
 
   // One level further down the keys start one element longer.
-  ASSERT_EQ(get("0.230.231.2903", got), 0);
+  ASSERT_EQ(get("0.9100.231.2903", got), 0);
   ASSERT_EQ(got.dvc_pnl_cmm_get_valueset(set), 0);
   EXPECT_TRUE(
-      sets_equal(set, make_valueset({{"0.230.231.2903.2904", 0L}, {"0.230.231.2903.2905", 1L}})));
+      sets_equal(set, make_valueset({{"0.9100.231.2903.2904", 0L}, {"0.9100.231.2903.2905", 1L}})));
 }
 
 TEST_F(SimulatedMachine, ALeafReadGivesItsOwnKind) {
@@ -407,12 +410,12 @@ TEST_F(SimulatedMachine, AnArmedResultIsAnsweredUnderTheCommandOnce) {
 // ---- the log ----
 
 TEST_F(SimulatedMachine, TheLogHoldsEveryCallInOrder) {
-  machine().fail_next(verb::get, "0.1.1", 6);
+  machine().fail_next(verb::get, "0.9101.1", 6);
   dvc_pnl_cmm_value value;
   ASSERT_EQ(get("0.555.2141.1890", value), 0);
   ASSERT_EQ(set("0.555.2141.1890", int_value(0)), 0);
-  EXPECT_EQ(get("0.1.1", value), 6);
-  EXPECT_EQ(get("0.1.2", value), kNoSuchNode);
+  EXPECT_EQ(get("0.9101.1", value), 6);
+  EXPECT_EQ(get("0.9101.2", value), kNoSuchNode);
   const dvc_pnl_cmm_valueset request = list_request(kUsers, 1, 1, 4);
   dvc_pnl_cmm_valueset response;
   ASSERT_EQ(invoke(kUsers, request, response), 0);
@@ -431,8 +434,8 @@ TEST_F(SimulatedMachine, TheLogHoldsEveryCallInOrder) {
   const expected_record expected[] = {
       {verb::get, "0.555.2141.1890", empty, make_valueset({{"0.555.2141.1890", 1L}}), 0},
       {verb::set, "0.555.2141.1890", make_valueset({{"0.555.2141.1890", 0L}}), empty, 0},
-      {verb::get, "0.1.1", empty, empty, 6},
-      {verb::get, "0.1.2", empty, empty, kNoSuchNode},
+      {verb::get, "0.9101.1", empty, empty, 6},
+      {verb::get, "0.9101.2", empty, empty, kNoSuchNode},
       {verb::invoke, kUsers, request, response, 0},
       {verb::invoke, "0.999", request, empty, kNotDeliverable},
   };
@@ -517,7 +520,7 @@ TEST_F(SimulatedMachine, ResetRestoresTheDefaultModel) {
 
 TEST_F(SimulatedMachine, AModelFileAddsNodesAndLists) {
   const std::string error = machine().load_model_json(R"({
-    "nodes": {"0.555.2141.1890": 2, "0.1.2": {"binary": "00ff10"}, "0.1.3": "text"},
+    "nodes": {"0.555.2141.1890": 2, "0.9102.2": {"binary": "00ff10"}, "0.9102.3": "text"},
     "lists": {"0.938.946": {"header": [4, 5], "rows": [{"1365": 8, "1037": "Job"}]}},
     "replace": false
   })");
@@ -525,11 +528,11 @@ TEST_F(SimulatedMachine, AModelFileAddsNodesAndLists) {
   EXPECT_EQ(machine().int_at("0.555.2141.1890"), 2L);
   EXPECT_EQ(machine().int_at("0.230.231.2903.2904"), 0L);  // untouched by an addition
   dvc_pnl_cmm_value value;
-  ASSERT_EQ(get("0.1", value), 0);
+  ASSERT_EQ(get("0.9102", value), 0);
   dvc_pnl_cmm_valueset set;
   ASSERT_EQ(value.dvc_pnl_cmm_get_valueset(set), 0);
   EXPECT_TRUE(sets_equal(
-      set, make_valueset({{"0.1.2", test::bytes{0x00, 0xff, 0x10}}, {"0.1.3", "text"}})));
+      set, make_valueset({{"0.9102.2", test::bytes{0x00, 0xff, 0x10}}, {"0.9102.3", "text"}})));
 
   dvc_pnl_cmm_valueset response;
   ASSERT_EQ(invoke("0.938.946", list_request("0.938.946", 1, 10, 0), response), 0);
