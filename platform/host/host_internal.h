@@ -38,6 +38,7 @@ void reset_pages();
 void reset_events();
 void reset_devices();
 void reset_layouts();
+void reset_language();
 
 }  // namespace host
 }  // namespace orvanta

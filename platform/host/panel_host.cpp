@@ -14,6 +14,7 @@ void reset() {
   host_clock::instance().reset();
   reset_devices();
   reset_layouts();
+  reset_language();
   host_data_manager::instance().reset();
   trace_sink::instance().clear();
   clear_value_faults();

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "orvanta/platform/dvc_pnl_cmm_command_mediator.h"
+#include "orvanta/platform/dvc_pnl_rmg_lang_attribute_manager.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_cmm.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_conditions.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_conditions_internal.h"
@@ -135,13 +136,16 @@ int dvc_pnl_ceh_contents_hdl_get_model() {
 }
 
 int dvc_pnl_ceh_contents_hdl_is_furigana_enable() {
-  // The language attribute manager can't be asked on this platform.
-  return 1;
+  dvc_pnl_rmg_lang_attribute_manager* languages =
+      dvc_pnl_rmg_lang_attribute_manager::dvc_pnl_rmg_get_instance();
+  // Without a manager to ask, readings are offered rather than withheld.
+  return languages == nullptr ? 1 : languages->dvc_pnl_rmg_is_furigana();
 }
 
 int dvc_pnl_ceh_contents_hdl_is_report_menu_map() {
-  // The language attribute manager can't be asked on this platform.
-  return 0;
+  dvc_pnl_rmg_lang_attribute_manager* languages =
+      dvc_pnl_rmg_lang_attribute_manager::dvc_pnl_rmg_get_instance();
+  return languages == nullptr ? 0 : languages->dvc_pnl_rmg_is_report_menu_map();
 }
 
 int dvc_pnl_ceh_contents_hdl_is_sanitization_lock() {

@@ -263,6 +263,23 @@ TEST_F(Conditions, OutArgumentQueriesAnswerTheReadAndKeepTheOutOnFailure) {
   EXPECT_EQ(0, mode);
 }
 
+TEST_F(Conditions, LanguageAttributesComeFromTheManager) {
+  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_is_furigana_enable(), 0);
+  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_is_report_menu_map(), 0);
+  host::set_language_attributes({1, 0});
+  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_is_furigana_enable(), 1);
+  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_is_report_menu_map(), 0);
+  host::set_language_attributes({0, 1});
+  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_is_furigana_enable(), 0);
+  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_is_report_menu_map(), 1);
+  // Without a manager: readings offered, no report menu map.
+  host::set_language_manager_available(false);
+  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_is_furigana_enable(), 1);
+  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_is_report_menu_map(), 0);
+  host::reset();
+  EXPECT_EQ(dvc_pnl_ceh_contents_hdl_is_furigana_enable(), 0);
+}
+
 TEST_F(Conditions, WifiNeedsBothNodesSet) {
   struct wifi {
     long equipped, enabled;

@@ -117,6 +117,15 @@ dvu_pnl_gcp_list* add_list_part(int contents_id, int function, int part_id);
 // reset() clears every word).
 void set_layout_attributes(int contents_id, unsigned long attributes);
 
+// What the language attribute manager answers: by default neither attribute (a reset brings the
+// defaults back). A manager made unavailable makes dvc_pnl_rmg_get_instance answer nullptr.
+struct language_attributes {
+  int furigana = 0;
+  int report_menu_map = 0;
+};
+void set_language_attributes(const language_attributes& attributes);
+void set_language_manager_available(bool available);
+
 // The LCD frame: 128x64 pixels, row-major, 16 bytes a row, most significant bit leftmost,
 // 1 = dark.
 inline constexpr int kFrameWidth = 128;
