@@ -1,6 +1,6 @@
-// The simulator's sample machine: the settings the panel reads, with their defaults, and two
-// short lists. This is sample data for walking the panel on a PC, not the data of any real
-// machine.
+// The simulator's sample machine: the settings the panel reads, with their defaults, two short
+// lists and fixed answers of the commands the condition queries run. This is sample data for
+// walking the panel on a PC, not the data of any real machine.
 #include "machine_internal.h"
 
 namespace orvanta::machine::detail {
@@ -20,6 +20,23 @@ const char* default_model_json() {
   // Users (0.938.959): 1365 user number, 1037 login name, 1561 authority (1 administrator,
   // 0 user). Address book (0.938.940): 1365 entry number, 1037 name, 1561 kind (0 contact,
   // 1 group). Two user names share a prefix so the text search has more than one match.
+  //
+  // Fixed answers, the same for every request (RESULT 1484 = 0 in each):
+  // - user information 0.874.844: whoever is asked about, the guest (user number 102): a local
+  //   user (536 = 0) of no domain, no administrator (1561 = 0), using the machine's language 1
+  //   (730 = 1, 3170/3891 = 1) and its send screen (3171 = 1, 348 = 0, 3172 = 0), allowed every
+  //   function (3060 to 3068 = 0);
+  // - user record 0.681.843.584: the guest, user number 102, name "Guest", account 1;
+  // - job accounting detail 0.679.843.584: account 1 "Guest", code "0001", no restriction
+  //   (1369, 1372, 1374, 1375, 1385 = 0);
+  // - mail address confirmation setting 0.874.4241: RESULT only;
+  // - send destination size 0.896.901: nothing chosen yet, every count 0;
+  // - address book group 0.887.921.584: member counts 2540 = 2, 2541 = 1, 2542 = 0, 2544 = 1,
+  //   and 2875 = 2;
+  // - unknown user number 0.503.3952: 1259 = 1;
+  // - the machine's choice of cassette 0.821.2855: 129 = 1, cassette 1;
+  // - colour confirmation of a box file 0.857.866.2885: colour mode 1 (1541.0.1518), not one of
+  //   the modes 2 and 3 that the panel takes for a document without colour.
   return R"json({
   "replace": true,
   "nodes": {
@@ -169,6 +186,25 @@ const char* default_model_json() {
         {"1365": 4, "1037": "Sales", "1561": 1}
       ]
     }
+  },
+  "answers": {
+    "0.874.844": {
+      "1484": 0, "1365": 102, "504": "Guest", "658": "", "536": 0, "730": 1, "1561": 0,
+      "3170": 1, "3891": 1, "3171": 1, "348": 0, "3172": 0,
+      "3060": 0, "3061": 0, "3062": 0, "3063": 0, "3064": 0, "3065": 0, "3066": 0, "3067": 0,
+      "3068": 0
+    },
+    "0.681.843.584": {"1484": 0, "1365": 102, "504": "Guest", "1362": 1},
+    "0.679.843.584": {
+      "1484": 0, "1362": 1, "1367": "Guest", "1366": "0001", "1368": "Guest",
+      "1369": 0, "1372": 0, "1374": 0, "1375": 0, "1385": 0
+    },
+    "0.874.4241": {"1484": 0},
+    "0.896.901": {"1484": 0, "206": 0, "884": 0, "1345": 0, "1569": 0},
+    "0.887.921.584": {"1484": 0, "2540": 2, "2541": 1, "2542": 0, "2544": 1, "2875": 2},
+    "0.503.3952": {"1484": 0, "1259": 1},
+    "0.821.2855": {"1484": 0, "129": 1},
+    "0.857.866.2885": {"1484": 0, "1541.0.1518": 1}
   }
 })json";
 }

@@ -1,5 +1,5 @@
-// Pieces of the simulated machine shared by its source files: paths, the list service and the
-// model file parser.
+// Pieces of the simulated machine shared by its source files: paths, the list service, fixed
+// answers and the model file parser.
 #pragma once
 
 #include <map>
@@ -33,10 +33,17 @@ struct list_data {
 int serve_list(const list_data& list, const dvc_pnl_cmm_key& command,
                const dvc_pnl_cmm_valueset& request, dvc_pnl_cmm_valueset& response);
 
+// The entries of a fixed answer: path below the command -> leaf value.
+using answer_data = std::vector<std::pair<path, dvc_pnl_cmm_value>>;
+// Why `entries` cannot make one response: an entry given twice or lying below another, named by
+// their dotted paths. Empty when every entry has a place of its own.
+std::string answer_overlap(const answer_data& entries);
+
 // A model file, parsed and checked, not yet applied.
 struct model {
   std::vector<std::pair<path, dvc_pnl_cmm_value>> nodes;
-  std::map<std::string, list_data> lists;  // by dotted command path
+  std::map<std::string, list_data> lists;      // by dotted command path
+  std::map<std::string, answer_data> answers;  // by dotted command path
   bool replace = false;
 };
 // Throws std::runtime_error with a readable text for malformed JSON or content.

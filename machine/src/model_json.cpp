@@ -1,4 +1,5 @@
-// Reads a model file (JSON) into nodes and lists, checking everything before any of it is used.
+// Reads a model file (JSON) into nodes, lists and fixed answers, checking everything before any
+// of it is used.
 #include <limits>
 #include <stdexcept>
 
@@ -112,6 +113,23 @@ list_data list_of(const json& j, const std::string& where) {
   return list;
 }
 
+// The entries of one fixed answer: response path below the command -> leaf value.
+answer_data answer_of(const json& j, const std::string& where) {
+  if (!j.is_object())
+    fail(where + ": an answer must be an object of response path -> value");
+  answer_data entries;
+  for (const auto& [rel, value] : j.items()) {
+    std::optional<path> p = parse_path(rel);
+    if (!p)
+      fail(where + ": \"" + rel +
+           "\" is not a response path below the command (1484, 1501.0.1365)");
+    entries.emplace_back(*p, leaf_of(value, where + " entry " + rel));
+  }
+  if (std::string overlap = answer_overlap(entries); !overlap.empty())
+    fail(where + ": " + overlap);
+  return entries;
+}
+
 }  // namespace
 
 model parse_model(const std::string& text) {
@@ -139,13 +157,25 @@ model parse_model(const std::string& text) {
         const std::string where = "list " + p;
         m.lists[to_dotted(node_path(p, where))] = list_of(value, where);
       }
+    } else if (name == "answers") {
+      if (!item.is_object())
+        fail("\"answers\" must be an object of command path -> answer");
+      for (const auto& [p, value] : item.items()) {
+        const std::string where = "answer " + p;
+        m.answers[to_dotted(node_path(p, where))] = answer_of(value, where);
+      }
     } else if (name == "replace") {
       if (!item.is_boolean())
         fail("\"replace\" must be true or false");
       m.replace = item.get<bool>();
     } else {
-      fail("unknown member \"" + name + "\" (expected nodes, lists, replace)");
+      fail("unknown member \"" + name + "\" (expected nodes, lists, answers, replace)");
     }
+  }
+  // A command has one handler.
+  for (const auto& [command, entries] : m.answers) {
+    if (m.lists.count(command) != 0)
+      fail("answer " + command + ": the command is a list too");
   }
   return m;
 }

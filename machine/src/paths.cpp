@@ -1,4 +1,6 @@
-// Dotted node paths of the simulated machine and their keys.
+// Dotted node paths of the simulated machine, their keys, and the check that the entries of a
+// fixed answer fit in one response.
+#include <algorithm>
 #include <charconv>
 
 #include "machine_internal.h"
@@ -42,6 +44,23 @@ int make_key(const path& p, dvc_pnl_cmm_key& out) {
       return ret;
   }
   return 0;
+}
+
+std::string answer_overlap(const answer_data& entries) {
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    for (std::size_t j = 0; j < entries.size(); ++j) {
+      const path& inner = entries[i].first;
+      const path& outer = entries[j].first;
+      if (i == j || inner.size() < outer.size() ||
+          !std::equal(outer.begin(), outer.end(), inner.begin()))
+        continue;
+      // A leaf cannot also be the group that holds another entry.
+      if (inner.size() == outer.size())
+        return "\"" + to_dotted(inner) + "\" is given twice";
+      return "\"" + to_dotted(inner) + "\" lies below the value \"" + to_dotted(outer) + "\"";
+    }
+  }
+  return {};
 }
 
 }  // namespace orvanta::machine::detail

@@ -1,4 +1,5 @@
-// The simulated machine: node tree, get/set/invoke with scripts, failures and the call log.
+// The simulated machine: node tree, get/set/invoke with scripts, failures, services, fixed answers
+// and the call log.
 #include "orvanta/machine/simulated_machine.h"
 
 #include <deque>
@@ -142,6 +143,21 @@ int value_of(const tree_node& n, const path& at, dvc_pnl_cmm_value& out) {
   return out.dvc_pnl_cmm_set_valueset(set);
 }
 
+// The group that a fixed answer's entries make, each at its path. Throws std::invalid_argument
+// when they cannot make one.
+tree_node answer_group(const detail::answer_data& entries) {
+  if (std::string overlap = detail::answer_overlap(entries); !overlap.empty())
+    throw std::invalid_argument("answer entry " + overlap);
+  tree_node group;
+  for (const auto& [rel, value] : entries) {
+    tree_node leaf;
+    leaf.leaf = value;
+    // Cannot clash: the entries were checked above.
+    place(group, rel, std::move(leaf));
+  }
+  return group;
+}
+
 // `value` stored under `key` in a fresh set, for the log; an empty set when that fails.
 dvc_pnl_cmm_valueset wrapped(const dvc_pnl_cmm_key& key, const dvc_pnl_cmm_value& value) {
   dvc_pnl_cmm_valueset set;
@@ -157,6 +173,7 @@ struct simulated_machine::impl {
   mutable std::recursive_mutex lock;
   tree_node top;  // holds ROOT (0) as its only child
   std::map<std::string, service> services;
+  std::map<std::string, tree_node> answers;  // by command: the group answered below its key
   std::map<std::string, list_data> lists;
   std::map<std::string, std::deque<dvc_pnl_cmm_valueset>> scripts;
   std::map<std::pair<verb, std::string>, std::deque<int>> failures;
@@ -227,6 +244,7 @@ struct simulated_machine::impl {
     if (m.replace) {
       top = tree_node{};
       lists.clear();
+      answers.clear();
     }
     for (auto& [p, value] : m.nodes) {
       tree_node leaf;
@@ -235,7 +253,13 @@ struct simulated_machine::impl {
     }
     for (auto& [command, list] : m.lists) {
       services.erase(command);
+      answers.erase(command);
       lists[command] = std::move(list);
+    }
+    for (auto& [command, entries] : m.answers) {
+      services.erase(command);
+      lists.erase(command);
+      answers[command] = answer_group(entries);
     }
   }
 };
@@ -323,6 +347,10 @@ int simulated_machine::dvc_pnl_cmm_invoke(const dvc_pnl_cmm_key& command,
     // A copy: the service may register or drop services, its own included.
     service run = s->second;
     rec.result = run(*this, call);
+  } else if (auto a = impl_->answers.find(dotted); a != impl_->answers.end()) {
+    response.dvc_pnl_cmm_clear();
+    path at = path_of(command);
+    rec.result = set_from_group(a->second, at, response);
   } else if (auto l = impl_->lists.find(dotted); l != impl_->lists.end()) {
     rec.result = detail::serve_list(l->second, command, request, response);
   } else {
@@ -389,7 +417,26 @@ void simulated_machine::register_service(const std::string& command, service s) 
   std::lock_guard<std::recursive_mutex> guard(impl_->lock);
   const std::string key = detail::to_dotted(parse_or_throw(command));
   impl_->lists.erase(key);
+  impl_->answers.erase(key);
   impl_->services[key] = std::move(s);
+}
+
+void simulated_machine::register_answer(const std::string& command, const answer_entries& entries) {
+  const std::string key = detail::to_dotted(parse_or_throw(command));
+  detail::answer_data data;
+  for (const auto& [rel, value] : entries) {
+    NAME_SPACE_NODE_TYPE type{};
+    if (value.dvc_pnl_cmm_get_type(type) != 0 || type == NODE_TYPE_VALUESET)
+      throw std::invalid_argument("answer entry \"" + rel +
+                                  "\" must be an integer, a string or a binary");
+    data.emplace_back(parse_or_throw(rel), value);
+  }
+  // Built before the lock: a refused answer leaves the command's handler as it was.
+  tree_node group = answer_group(data);
+  std::lock_guard<std::recursive_mutex> guard(impl_->lock);
+  impl_->services.erase(key);
+  impl_->lists.erase(key);
+  impl_->answers[key] = std::move(group);
 }
 
 void simulated_machine::register_list(const std::string& command, std::vector<list_row> rows,
@@ -397,6 +444,7 @@ void simulated_machine::register_list(const std::string& command, std::vector<li
   std::lock_guard<std::recursive_mutex> guard(impl_->lock);
   const std::string key = detail::to_dotted(parse_or_throw(command));
   impl_->services.erase(key);
+  impl_->answers.erase(key);
   impl_->lists[key] = list_data{std::move(rows), header_1337, header_1524};
 }
 
@@ -439,6 +487,7 @@ void simulated_machine::reset() {
   std::lock_guard<std::recursive_mutex> guard(impl_->lock);
   impl_->top = tree_node{};
   impl_->services.clear();
+  impl_->answers.clear();
   impl_->lists.clear();
   impl_->scripts.clear();
   impl_->failures.clear();

@@ -1,5 +1,5 @@
-// Simulated machine: node tree reads and writes, the paged list service, services, scripts and
-// failures, the call log, posted events, reset and model files.
+// Simulated machine: node tree reads and writes, the paged list service, services, fixed answers,
+// scripts and failures, the call log, posted events, reset and model files.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -53,6 +53,14 @@ std::vector<long> body_ints(const dvc_pnl_cmm_valueset& response, const std::str
     EXPECT_EQ(element.dvc_pnl_cmm_get_int(key_of(row + "." + std::to_string(field)), v), 0) << row;
     out.push_back(v);
   }
+  return out;
+}
+
+// Fixed answer entries written like valueset entries, with paths below the command.
+answer_entries answer(const std::vector<test::entry>& entries) {
+  answer_entries out;
+  for (const test::entry& e : entries)
+    out.emplace_back(e.path, e.value.value());
   return out;
 }
 
@@ -407,6 +415,114 @@ TEST_F(SimulatedMachine, AnArmedResultIsAnsweredUnderTheCommandOnce) {
   EXPECT_EQ(response_int(response, "0.938.959.1592"), 5);
 }
 
+// ---- fixed answers ----
+
+TEST_F(SimulatedMachine, AFixedAnswerAnswersItsEntriesUnderTheCommandEveryTime) {
+  machine().register_answer("0.9200.1", answer({{"1484", 0L},
+                                                {"536", 1L},
+                                                {"504", "Admin"},
+                                                {"20", test::bytes{0x01, 0x02}},
+                                                {"1501.0.1365", 7L},
+                                                {"1501.1.1365", 8L}}));
+  const dvc_pnl_cmm_valueset expected = make_valueset({{"0.9200.1.1484", 0L},
+                                                       {"0.9200.1.536", 1L},
+                                                       {"0.9200.1.504", "Admin"},
+                                                       {"0.9200.1.20", test::bytes{0x01, 0x02}},
+                                                       {"0.9200.1.1501.0.1365", 7L},
+                                                       {"0.9200.1.1501.1.1365", 8L}});
+  // Whatever is asked, the same answer; what the response held before goes.
+  for (const dvc_pnl_cmm_valueset& request :
+       {dvc_pnl_cmm_valueset{}, make_valueset({{"0.9200.1.1012", 17L}})}) {
+    dvc_pnl_cmm_valueset response = make_valueset({{"0.1", 1L}});
+    ASSERT_EQ(invoke("0.9200.1", request, response), 0);
+    EXPECT_TRUE(sets_equal(response, expected));
+  }
+  ASSERT_EQ(machine().log().size(), 2u);
+  EXPECT_TRUE(sets_equal(machine().log()[1].response, expected));
+  EXPECT_EQ(machine().log()[1].result, 0);
+}
+
+TEST_F(SimulatedMachine, AFixedAnswerWithoutResultAnswersOnlyItsEntries) {
+  machine().register_answer("0.9200.2", answer({{"129", 4L}}));
+  dvc_pnl_cmm_valueset response;
+  ASSERT_EQ(invoke("0.9200.2", dvc_pnl_cmm_valueset{}, response), 0);
+  EXPECT_TRUE(sets_equal(response, make_valueset({{"0.9200.2.129", 4L}})));
+  // An answer of no entries is an empty response, still delivered.
+  machine().register_answer("0.9200.2", {});
+  ASSERT_EQ(invoke("0.9200.2", dvc_pnl_cmm_valueset{}, response), 0);
+  EXPECT_EQ(response.dvc_pnl_cmm_size(), 0u);
+}
+
+TEST_F(SimulatedMachine, ScriptsFailuresAndArmedResultsComeBeforeAFixedAnswer) {
+  const std::string command = "0.9200.3";
+  machine().register_answer(command, answer({{"1484", 0L}, {"129", 2L}}));
+  const dvc_pnl_cmm_valueset scripted = make_valueset({{"0.9200.3.1484", 5L}});
+  machine().script_next_response(command, scripted);
+  machine().fail_next(verb::invoke, command, 9);
+  machine().fail_next_result(command, 4);
+
+  dvc_pnl_cmm_valueset response;
+  ASSERT_EQ(invoke(command, dvc_pnl_cmm_valueset{}, response), 0);
+  EXPECT_TRUE(sets_equal(response, scripted));
+  response = make_valueset({{"0.1", 1L}});
+  EXPECT_EQ(invoke(command, dvc_pnl_cmm_valueset{}, response), 9);
+  EXPECT_TRUE(sets_equal(response, make_valueset({{"0.1", 1L}})));
+  ASSERT_EQ(invoke(command, dvc_pnl_cmm_valueset{}, response), 0);
+  EXPECT_TRUE(sets_equal(response, make_valueset({{"0.9200.3.1484", 4L}})));
+  // Used up: the fixed answer again.
+  ASSERT_EQ(invoke(command, dvc_pnl_cmm_valueset{}, response), 0);
+  EXPECT_TRUE(sets_equal(response, make_valueset({{"0.9200.3.1484", 0L}, {"0.9200.3.129", 2L}})));
+}
+
+TEST_F(SimulatedMachine, AFixedAnswerServicesAndListsReplaceEachOther) {
+  const std::string command = "0.9200.4";
+  const auto answered = [&]() {
+    dvc_pnl_cmm_valueset response;
+    EXPECT_EQ(invoke(command, list_request(command, 1, 10, 0), response), 0);
+    long v = -1;
+    response.dvc_pnl_cmm_get_int(key_of(command + ".1592"), v);  // the list's row count
+    if (v >= 0)
+      return "list";
+    response.dvc_pnl_cmm_get_int(key_of(command + ".129"), v);
+    return v == 1 ? "answer" : v == 2 ? "service" : "nothing";
+  };
+  machine().register_answer(command, answer({{"129", 1L}}));
+  EXPECT_STREQ(answered(), "answer");
+  machine().register_service(command, [command](simulated_machine&, service_call& call) {
+    return call.response.dvc_pnl_cmm_set_int(key_of(command + ".129"), 2);
+  });
+  EXPECT_STREQ(answered(), "service");
+  machine().register_answer(command, answer({{"129", 1L}}));
+  EXPECT_STREQ(answered(), "answer");
+  machine().register_list(command, {});
+  EXPECT_STREQ(answered(), "list");
+  machine().register_answer(command, answer({{"129", 1L}}));
+  EXPECT_STREQ(answered(), "answer");
+  EXPECT_EQ(machine().list_rows(command), nullptr);
+}
+
+TEST_F(SimulatedMachine, ARefusedFixedAnswerThrowsAndKeepsWhatServedTheCommand) {
+  machine().register_answer("0.9200.5", answer({{"1484", 0L}}));
+  const dvc_pnl_cmm_valueset nested = make_valueset({{"0.9200.5.7.1", 1L}});
+  const answer_entries refused[] = {
+      answer({{"", 1L}}),                           // no path
+      answer({{"1.x", 1L}}),                        // not a number
+      answer({{"1501", 1L}, {"1501.0.1365", 2L}}),  // below another entry's value
+      answer({{"1501.0.1365", 2L}, {"1501", 1L}}),  // the same, given the other way round
+      answer({{"12", 1L}, {"012", 2L}}),            // one place twice
+      answer({{"7", nested}}),                      // a set: nesting comes from the paths
+      answer_entries{{"8", dvc_pnl_cmm_value{}}},   // no value
+  };
+  for (const answer_entries& entries : refused) {
+    SCOPED_TRACE(entries.empty() ? "-" : entries.front().first);
+    EXPECT_THROW(machine().register_answer("0.9200.5", entries), std::invalid_argument);
+    dvc_pnl_cmm_valueset response;
+    ASSERT_EQ(invoke("0.9200.5", dvc_pnl_cmm_valueset{}, response), 0);
+    EXPECT_TRUE(sets_equal(response, make_valueset({{"0.9200.5.1484", 0L}})));
+  }
+  EXPECT_THROW(machine().register_answer("0..1", {}), std::invalid_argument);
+}
+
 // ---- the log ----
 
 TEST_F(SimulatedMachine, TheLogHoldsEveryCallInOrder) {
@@ -499,6 +615,8 @@ TEST_F(SimulatedMachine, ResetRestoresTheDefaultModel) {
   machine().remove_node("0.230.231");
   machine().register_service("0.874.681", [](simulated_machine&, service_call&) { return 0; });
   machine().register_list(kUsers, {});
+  machine().register_answer("0.874.844", answer({{"1484", 6L}}));
+  machine().register_answer("0.9200.6", answer({{"1484", 0L}}));
   machine().script_next_response("0.938.940", dvc_pnl_cmm_valueset{});
   machine().fail_next(verb::get, "0.555.2141.1890");
   machine().fail_next_result("0.938.940", 3);
@@ -516,6 +634,39 @@ TEST_F(SimulatedMachine, ResetRestoresTheDefaultModel) {
   ASSERT_EQ(invoke("0.938.940", list_request("0.938.940", 1, 10, 0), response), 0);
   EXPECT_EQ(response_int(response, "0.938.940.1484"), 0);
   EXPECT_EQ(body_ints(response, "0.938.940", 1365), (std::vector<long>{1, 2, 3, 4}));
+  // The default model's fixed answers are back, answers registered since are gone.
+  ASSERT_EQ(invoke("0.874.844", dvc_pnl_cmm_valueset{}, response), 0);
+  EXPECT_EQ(response_int(response, "0.874.844.1484"), 0);
+  EXPECT_EQ(response_int(response, "0.874.844.1365"), 102);
+  EXPECT_EQ(invoke("0.9200.6", dvc_pnl_cmm_valueset{}, response), kNotDeliverable);
+}
+
+TEST_F(SimulatedMachine, AModelFileAddsFixedAnswersAndReplacesWhatServedTheirCommands) {
+  machine().register_service("0.9200.7", [](simulated_machine&, service_call&) { return 4; });
+  ASSERT_EQ(machine().load_model_json(R"({
+    "answers": {
+      "0.9200.7": {"1484": 0, "504": "Anna", "1541.0.1518": 2, "9": {"binary": "0a0B"}},
+      "0.938.959": {"1484": 3}
+    }
+  })"),
+            "");
+  dvc_pnl_cmm_valueset response;
+  ASSERT_EQ(invoke("0.9200.7", dvc_pnl_cmm_valueset{}, response), 0);
+  EXPECT_TRUE(sets_equal(response, make_valueset({{"0.9200.7.1484", 0L},
+                                                  {"0.9200.7.504", "Anna"},
+                                                  {"0.9200.7.1541.0.1518", 2L},
+                                                  {"0.9200.7.9", test::bytes{0x0a, 0x0b}}})));
+  // The users list gave way to the answer; the default answers stay.
+  ASSERT_EQ(invoke(kUsers, list_request(kUsers, 1, 10, 0), response), 0);
+  EXPECT_TRUE(sets_equal(response, make_valueset({{"0.938.959.1484", 3L}})));
+  EXPECT_EQ(machine().list_rows(kUsers), nullptr);
+  ASSERT_EQ(invoke("0.874.844", dvc_pnl_cmm_valueset{}, response), 0);
+  EXPECT_EQ(response_int(response, "0.874.844.1365"), 102);
+
+  // A list in a later file takes the command back.
+  ASSERT_EQ(machine().load_model_json(R"({"lists": {"0.9200.7": {"rows": [{"1365": 1}]}}})"), "");
+  ASSERT_EQ(invoke("0.9200.7", list_request("0.9200.7", 1, 10, 0), response), 0);
+  EXPECT_EQ(response_int(response, "0.9200.7.1592"), 1);
 }
 
 TEST_F(SimulatedMachine, AModelFileAddsNodesAndLists) {
@@ -557,6 +708,7 @@ TEST_F(SimulatedMachine, AReplacingModelFileDropsTheOldModel) {
     EXPECT_TRUE(machine().node("0")->equals(set_value(make_valueset({{"0.5.5", 1L}}, 2))));
     dvc_pnl_cmm_valueset response;
     EXPECT_EQ(invoke(kUsers, list_request(kUsers, 1, 10, 0), response), kNotDeliverable);
+    EXPECT_EQ(invoke("0.874.844", dvc_pnl_cmm_valueset{}, response), kNotDeliverable);
   }
 }
 
@@ -575,6 +727,7 @@ TEST_F(SimulatedMachine, AFaultyModelFileIsRefusedWithAReasonAndChangesNothing) 
       R"({"lists": {"0.938.959": {"rows": [{"a": 1}]}}})",         // bad field
       R"({"lists": {"0.938.959": {"header": [1], "rows": []}}})",  // short header
       R"({"lists": {"0.938.959": {"rows": {}}}})",                 // rows not an array
+      R"({"answers": {"0.874.844": {"1484": 1}, "0.9.x": {}}})",   // bad command, after a good one
   };
   const dvc_pnl_cmm_value before = *machine().node("0");
   for (const char* text : faulty) {
@@ -584,6 +737,37 @@ TEST_F(SimulatedMachine, AFaultyModelFileIsRefusedWithAReasonAndChangesNothing) 
     dvc_pnl_cmm_valueset response;
     ASSERT_EQ(invoke(kUsers, list_request(kUsers, 1, 10, 0), response), 0);
     EXPECT_EQ(response_int(response, "0.938.959.1592"), 5);
+  }
+}
+
+TEST_F(SimulatedMachine, AFaultyAnswersSectionIsRefusedNamingTheOffendingKey) {
+  struct faulty_case {
+    const char* text;
+    std::vector<std::string> named;  // what the error text must hold
+  };
+  const faulty_case cases[] = {
+      {R"({"answers": [1]})", {"\"answers\""}},
+      {R"({"answers": {"0.874.4241": {"1484": 0}, "7.1": {}}})", {"answer 7.1"}},
+      {R"({"answers": {"0.874.4241": [0]}})", {"answer 0.874.4241"}},
+      {R"({"answers": {"0.874.4241": {"1484": 0, "1.-2": 1}}})", {"answer 0.874.4241", "1.-2"}},
+      {R"({"answers": {"0.874.4241": {"1484": 0.5}}})", {"answer 0.874.4241 entry 1484"}},
+      {R"({"answers": {"0.874.4241": {"1484": [0]}}})", {"answer 0.874.4241 entry 1484"}},
+      {R"({"answers": {"0.874.4241": {"1501": 0, "1501.0.1365": 1}}})",
+       {"answer 0.874.4241", "1501.0.1365", "1501"}},
+      {R"({"answers": {"0.874.4241": {"3": 0, "03": 1}}})", {"answer 0.874.4241", "\"3\""}},
+      {R"({"answers": {"0.9200.8": {"1484": 0}}, "lists": {"0.9200.8": {"rows": []}}})",
+       {"answer 0.9200.8"}},
+  };
+  for (const faulty_case& c : cases) {
+    SCOPED_TRACE(c.text);
+    const std::string error = machine().load_model_json(c.text);
+    for (const std::string& part : c.named)
+      EXPECT_NE(error.find(part), std::string::npos) << error;
+    // Nothing of the file was applied: the command keeps its default answer, no other appeared.
+    dvc_pnl_cmm_valueset response;
+    ASSERT_EQ(invoke("0.874.4241", dvc_pnl_cmm_valueset{}, response), 0);
+    EXPECT_TRUE(sets_equal(response, make_valueset({{"0.874.4241.1484", 0L}})));
+    EXPECT_EQ(invoke("0.9200.8", dvc_pnl_cmm_valueset{}, response), kNotDeliverable);
   }
 }
 

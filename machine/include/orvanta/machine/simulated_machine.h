@@ -1,5 +1,5 @@
-// The simulated machine behind the command mediator: node tree, services, list paging, call log,
-// scripted answers and failure injection.
+// The simulated machine behind the command mediator: node tree, services, fixed answers, list
+// paging, call log, scripted answers and failure injection.
 #pragma once
 
 #include <functional>
@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "orvanta/platform/dvc_pnl_cmm_command_mediator.h"
@@ -53,6 +54,10 @@ struct list_row {
   std::map<unsigned long, dvc_pnl_cmm_value> fields;
 };
 
+// The response entries of a fixed answer: a dotted path below the command ("1484", "1501.0.1365")
+// and its value, an integer, a string or a binary.
+using answer_entries = std::vector<std::pair<std::string, dvc_pnl_cmm_value>>;
+
 class simulated_machine final : public dvc_pnl_cmm_command_mediator {
  public:
   static simulated_machine& instance();
@@ -80,8 +85,14 @@ class simulated_machine final : public dvc_pnl_cmm_command_mediator {
   void remove_node(const std::string& path);
 
   // ---- services ----
-  // One handler per command: registering a service or a list on a command drops what served it.
+  // One handler per command: registering a service, a fixed answer or a list on a command drops
+  // what served it.
   void register_service(const std::string& command, service s);
+  // Every invoke of `command` answers `entries`, each under `<command>.<path>`, with mediator
+  // result 0; RESULT (1484) is answered only when it is among the entries. Throws
+  // std::invalid_argument for a malformed command or entry path, an entry that lies on or below
+  // another, and a value that is not an integer, a string or a binary.
+  void register_answer(const std::string& command, const answer_entries& entries);
   // Serves `command` (e.g. "0.938.959") as a paged list of `rows`, with the list header values.
   void register_list(const std::string& command, std::vector<list_row> rows, long header_1337 = 0,
                      long header_1524 = 0);
