@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "orvanta/platform/dvu_pnl_gcp_resource.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_cmm.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_conditions.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_conditions_internal.h"
@@ -233,11 +234,8 @@ constexpr long kTimeZoneResources[kTimeZones] = {
     0,    0,    0,    0,    0,    3236,
 };
 
-// PLACEHOLDER TEXTS. The panel's text resources are not available to this library yet, so a
-// time zone's text reads as its resource number in brackets, e.g. "[3182]". Replace this
-// function with the resource lookup once the texts are there.
 std::string time_zone_text(long resource) {
-  return "[" + std::to_string(resource) + "]";
+  return dvu_pnl_gcp_resource::get_text_resource(static_cast<int>(resource));
 }
 
 // The machine's clock: year, month, day, hour, minute and second at 0.4167.1499.

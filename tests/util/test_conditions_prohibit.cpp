@@ -183,11 +183,15 @@ TEST_F(ProhibitCid, NothingToQueueKeepsTheCidAndStillStoresTheEmptyQueue) {
 
 TEST(TimeZones, TextsOfTheTable) {
   const std::vector<std::pair<int, const char*>> cases = {
-      {0, "[3182]"},      {14, "[3815]"},   {26, "[3201]"},     {33, "[3215]"},
-      {104, "[3821]"},    {115, "[3236]"},  {105, "NOT_FOUND"}, {114, "NOT_FOUND"},
-      {116, "NOT_FOUND"}, {-1, "NOT_FOUND"}};
+      {0, "3182"},   {14, "3815"},       {26, "3201"},       {33, "3215"},       {104, "3821"},
+      {115, "3236"}, {105, "NOT_FOUND"}, {114, "NOT_FOUND"}, {116, "NOT_FOUND"}, {-1, "NOT_FOUND"}};
   for (const auto& [zone, text] : cases)
     EXPECT_EQ(text, dvc_pnl_ceh_contents_hdl_get_timez_val_str(zone)) << zone;
+  // The texts come from the resource table.
+  host::set_text_resource(3215, "(UTC+01:00) Paris");
+  EXPECT_EQ("(UTC+01:00) Paris", dvc_pnl_ceh_contents_hdl_get_timez_val_str(33));
+  host::clear_text_resources();
+  EXPECT_EQ("3215", dvc_pnl_ceh_contents_hdl_get_timez_val_str(33));
   int missing = 0;
   for (int zone = 0; zone <= 115; ++zone)
     missing += dvc_pnl_ceh_contents_hdl_get_timez_val_str(zone) == "NOT_FOUND" ? 1 : 0;
@@ -201,7 +205,7 @@ TEST_F(Conditions, DateAndTimeOfTheMachine) {
   EXPECT_EQ(
       (std::vector<int>{2024, 5, 14, 10, 30, 0}),
       (std::vector<int>{time.year, time.month, time.day, time.hour, time.minute, time.second}));
-  EXPECT_STREQ("[3215]", time.time_zone);
+  EXPECT_STREQ("3215", time.time_zone);
 
   machine().set_int("0.230.311.320", 110);
   dvc_pnl_ceh_contents_hdl_get_date_time_setting(time);
@@ -209,7 +213,7 @@ TEST_F(Conditions, DateAndTimeOfTheMachine) {
   // A zone that can't be read counts as zone 0.
   machine().fail_next(verb::get, "0.230.311.320");
   dvc_pnl_ceh_contents_hdl_get_date_time_setting(time);
-  EXPECT_STREQ("[3182]", time.time_zone);
+  EXPECT_STREQ("3182", time.time_zone);
 
   machine().fail_next(verb::get, "0.4167.1499");
   EXPECT_EQ(3, dvc_pnl_ceh_contents_hdl_get_date_time_setting(time));

@@ -117,6 +117,11 @@ dvu_pnl_gcp_list* add_list_part(int contents_id, int function, int part_id);
 // reset() clears every word).
 void set_layout_attributes(int contents_id, unsigned long attributes);
 
+// The resource table behind dvu_pnl_gcp_resource: texts by resource id. It starts empty (every id
+// reads as its number) and, being data rather than state, is kept across reset().
+void set_text_resource(int rid, const std::string& text);
+void clear_text_resources();
+
 // What the language attribute manager answers: by default neither attribute (a reset brings the
 // defaults back). A manager made unavailable makes dvc_pnl_rmg_get_instance answer nullptr.
 struct language_attributes {
