@@ -49,15 +49,6 @@ dvc_pnl_cmm_valueset source_set(unsigned long node, long value) {
 
 }  // namespace
 
-std::optional<int> opened_id(const std::string& entry) {
-  std::istringstream in(entry);
-  std::string verb;
-  int group = 0, function = 0, state = 0, id = 0;
-  if (!(in >> verb >> group >> function >> state >> id) || verb != "open")
-    return std::nullopt;
-  return id;
-}
-
 std::string read_file(const std::string& path, std::string& out) {
   std::ifstream in(path, std::ios::binary);
   if (!in)
@@ -78,6 +69,7 @@ panel_runtime::panel_runtime(clock_mode mode) : mode_(mode) {
         return factory->dvc_pnl_ceh_create_contents_proc_class(id, gui);
       });
   host::keep_posted_log(true);
+  host::page_lifecycle::instance().add_listener(this);
   reset();
   if (mode_ == clock_mode::real_time)
     ticker_ = std::thread([this] { tick(); });
@@ -93,7 +85,14 @@ panel_runtime::~panel_runtime() {
   dvc_pnl_ceh_contents_base::reset_statics();
   dvc_pnl_ceh_contents_hdl_base::reset_statics();
   host::keep_posted_log(false);
+  host::page_lifecycle::instance().remove_listener(this);
 }
+
+void panel_runtime::page_opened(int function, int contents_id) {
+  opened_.push_back({function, contents_id});
+}
+
+void panel_runtime::page_closed(int, int) {}
 
 std::string panel_runtime::reset(const std::string& model) {
   std::lock_guard<std::recursive_mutex> guard(lock_);
@@ -108,6 +107,7 @@ std::string panel_runtime::reset(const std::string& model) {
   if (!model.empty())
     error = m.load_model_json(model);
   host::trace_sink::instance().clear();
+  opened_.clear();
   proxy()->dvc_pnl_ceh_event_initialize();
   wall_origin_ms_ = wall_ms();
   return error;
@@ -130,12 +130,11 @@ bool panel_runtime::open(int id) {
                           factory->dvc_pnl_ceh_get_contents_class_state(id), id};
   // The framework opens a page on its own behalf: no page asks for it.
   CONTENTS_OPEN_INFO opener{0, function, 0, 0};
-  const std::size_t log_before = host::page_stack_log().size();
+  const std::size_t before = opened_.size();
   proxy()->dvc_pnl_ceh_open_contents(info, opener);
   drain();
-  const auto& log = host::page_stack_log();
-  for (std::size_t i = log_before; i < log.size(); ++i) {
-    if (opened_id(log[i]) == id)
+  for (std::size_t i = before; i < opened_.size(); ++i) {
+    if (opened_[i].contents_id == id)
       return true;
   }
   return false;

@@ -224,14 +224,12 @@ void scenario_run::expect(const std::vector<std::string>& t, const std::string& 
   } else if (what == "opened") {
     need(t, 3, "expect opened <ID>");
     const int id = parse_id(t[2]);
-    const auto& log = host::page_stack_log();
+    const auto& all = rt_.opened();
     std::vector<std::string> opened;
-    for (std::size_t i = page_log_mark_; i < log.size(); ++i) {
-      if (auto o = opened_id(log[i])) {
-        if (*o == id)
-          return;
-        opened.push_back(contents_name(*o));
-      }
+    for (std::size_t i = opened_mark_; i < all.size(); ++i) {
+      if (all[i].contents_id == id)
+        return;
+      opened.push_back(contents_name(all[i].contents_id));
     }
     throw expectation_failed("opened " + join(opened, "nothing"));
   } else if (what == "trace") {
@@ -244,8 +242,8 @@ void scenario_run::expect(const std::vector<std::string>& t, const std::string& 
       if (traces_[i].message.find(want) != std::string::npos)
         return;
     }
-    throw expectation_failed(std::to_string(traces_.size() - from) +
-                             " trace messages, none containing it");
+    throw expectation_failed("no trace message in the window contains it (" +
+                             std::to_string(traces_.size() - from) + " messages)");
   } else if (what == "lcd") {
     if (t.size() != 3 || (t[2] != "changed" && t[2] != "unchanged"))
       throw scenario_error("usage: expect lcd changed|unchanged");
@@ -486,6 +484,7 @@ void scenario_run::expect_frame(const std::vector<std::string>& t, const std::st
   if (error.empty() && stored == have)
     return;
   if (options_.update_frames) {
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
     std::ofstream file(path, std::ios::binary);
     file << to_pbm(have);
     if (!file)

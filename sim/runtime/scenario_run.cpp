@@ -331,7 +331,7 @@ void scenario_run::keyboard_command(const std::vector<std::string>& t) {
 void scenario_run::mark_input() {
   harvest();
   machine_mark_ = machine::simulated_machine::instance().log().size();
-  page_log_mark_ = host::page_stack_log().size();
+  opened_mark_ = rt_.opened().size();
   frame_mark_ = host::devices().frames.size();
   command_mark_ = host::devices().panel_commands.size();
   posted_mark_ = posted_.size();

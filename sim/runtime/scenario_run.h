@@ -70,7 +70,7 @@ class scenario_run {
 
   // Input window: positions when the latest input command began.
   std::size_t machine_mark_ = 0;
-  std::size_t page_log_mark_ = 0;
+  std::size_t opened_mark_ = 0;
   std::size_t frame_mark_ = 0;
   std::size_t command_mark_ = 0;
   std::size_t posted_mark_ = 0;

@@ -10,6 +10,7 @@
 #include <thread>
 #include <vector>
 
+#include "orvanta/host/page_lifecycle.h"
 #include "orvanta/host/panel_host.h"
 #include "orvanta/platform/dvc_pnl_evh_panel_event.h"
 #include "orvanta/sim/frame_render.h"
@@ -28,8 +29,14 @@ struct top_window {
   dvc_pnl_ceh_contents_interface* contents;
 };
 
+// A page the page stack opened.
+struct opened_page {
+  int function;
+  int contents_id;
+};
+
 // The panel is made of process-wide singletons, so one runtime exists at a time.
-class panel_runtime {
+class panel_runtime : private host::page_listener {
  public:
   explicit panel_runtime(clock_mode mode = clock_mode::virtual_time);
   ~panel_runtime();
@@ -73,6 +80,8 @@ class panel_runtime {
   lcd_frame frame() const;
   // Frames sent to the LCD since the reset.
   std::size_t frame_count() const;
+  // Pages that opened since the reset, in order, whether or not they are still open.
+  const std::vector<opened_page>& opened() const { return opened_; }
   // Texts and icons of the top screen's parts.
   std::vector<shown_item> top_items() const;
   resource_table& resources() { return resources_; }
@@ -84,18 +93,18 @@ class panel_runtime {
 
  private:
   void tick();
+  void page_opened(int function, int contents_id) override;
+  void page_closed(int function, int contents_id) override;
 
   clock_mode mode_;
   resource_table resources_;
+  std::vector<opened_page> opened_;
   mutable std::recursive_mutex lock_;
   std::atomic<bool> stopping_{false};
   std::thread ticker_;
   // Wall time (ms since the epoch of steady_clock) at which the panel clock stood at 0.
   std::atomic<long long> wall_origin_ms_{0};
 };
-
-// The contents id of a page stack log entry "open g f s id order"; nothing for other entries.
-std::optional<int> opened_id(const std::string& entry);
 
 // Reads a whole file; answers an error text, empty on success.
 std::string read_file(const std::string& path, std::string& out);
