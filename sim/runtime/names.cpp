@@ -5,6 +5,7 @@
 
 #include <charconv>
 #include <cstdlib>
+#include <limits>
 #include <map>
 #include <memory>
 #include <typeinfo>
@@ -81,6 +82,10 @@ constexpr named_key kKeys[] = {
 
 constexpr int kKeyDigitZero = 45;
 
+bool fits_int(long n) {
+  return n >= std::numeric_limits<int>::min() && n <= std::numeric_limits<int>::max();
+}
+
 }  // namespace
 
 std::optional<long> parse_number(std::string_view text) {
@@ -91,7 +96,7 @@ std::optional<long> parse_number(std::string_view text) {
 
 std::optional<int> parse_contents_id(std::string_view text) {
   if (auto number = parse_number(text))
-    return static_cast<int>(*number);
+    return fits_int(*number) ? std::optional<int>(static_cast<int>(*number)) : std::nullopt;
   const auto& table = ids_by_name();
   auto it = table.find(text);
   if (it == table.end())
@@ -111,7 +116,7 @@ std::optional<int> parse_key(std::string_view text) {
   if (text.size() == 1 && text[0] >= '0' && text[0] <= '9')
     return kKeyDigitZero + (text[0] - '0');
   if (auto number = parse_number(text))
-    return static_cast<int>(*number);
+    return fits_int(*number) ? std::optional<int>(static_cast<int>(*number)) : std::nullopt;
   return std::nullopt;
 }
 

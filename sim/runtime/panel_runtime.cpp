@@ -2,6 +2,7 @@
 #include "orvanta/sim/panel_runtime.h"
 
 #include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -50,6 +51,9 @@ dvc_pnl_cmm_valueset source_set(unsigned long node, long value) {
 }  // namespace
 
 std::string read_file(const std::string& path, std::string& out) {
+  std::error_code ec;
+  if (std::filesystem::is_directory(path, ec))
+    return path + " is a directory";
   std::ifstream in(path, std::ios::binary);
   if (!in)
     return "cannot open " + path;

@@ -18,16 +18,6 @@ constexpr int kEventLockWord = 1044;
 constexpr int kPartList = 64;
 const std::vector<unsigned long> kLockWordPath = {0, 2883, 2884};
 
-int parse_id(const std::string& token) {
-  if (auto id = parse_contents_id(token))
-    return *id;
-  throw scenario_error("unknown contents id " + token);
-}
-
-int parse_int(const std::string& token, const char* what) {
-  return static_cast<int>(parse_long(token, what));
-}
-
 std::string id_text(int id) {
   return contents_name(id) + " (" + std::to_string(id) + ")";
 }

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <limits>
 #include <sstream>
 
 #include "contents/dvc_pnl_ceh_event_proxy.h"
@@ -18,6 +19,17 @@ constexpr int kIncludeDepth = 16;
 constexpr int kKeyRelease = 87;
 constexpr std::size_t kEventSourceTopLen = 2;  // source sets hold keys (0, n) at the top
 constexpr int kVerboseTraceLevel = 2;
+// One wait may let at most a day pass: a repeating timer makes every due time a stop.
+constexpr long kLongestWaitMs = 24L * 60 * 60 * 1000;
+
+long parse_time(const std::string& token) {
+  const long ms = parse_long(token, "time");
+  if (ms < 0)
+    throw scenario_error("time cannot go back");
+  if (ms > kLongestWaitMs)
+    throw scenario_error("one wait lets at most a day (86400000 ms) pass");
+  return ms;
+}
 
 std::string trim(const std::string& s) {
   const auto first = s.find_first_not_of(" \t\r");
@@ -27,20 +39,10 @@ std::string trim(const std::string& s) {
   return s.substr(first, last - first + 1);
 }
 
-int parse_id(const std::string& token) {
-  if (auto id = parse_contents_id(token))
-    return *id;
-  throw scenario_error("unknown contents id " + token);
-}
-
 int parse_key_token(const std::string& token) {
   if (auto key = parse_key(token))
     return *key;
   throw scenario_error("unknown key " + token);
-}
-
-int parse_int(const std::string& token, const char* what) {
-  return static_cast<int>(parse_long(token, what));
 }
 
 const std::string& dm_key(const std::string& name) {
@@ -51,6 +53,19 @@ const std::string& dm_key(const std::string& name) {
 }
 
 }  // namespace
+
+int parse_id(const std::string& token) {
+  if (auto id = parse_contents_id(token))
+    return *id;
+  throw scenario_error("unknown contents id " + token);
+}
+
+int parse_int(const std::string& token, const char* what) {
+  const long n = parse_long(token, what);
+  if (n < std::numeric_limits<int>::min() || n > std::numeric_limits<int>::max())
+    throw scenario_error(std::string(what) + " out of range: " + token);
+  return static_cast<int>(n);
+}
 
 void need(const std::vector<std::string>& t, std::size_t count, const char* usage) {
   if (t.size() < count)
@@ -136,9 +151,9 @@ void scenario_run::execute(const std::vector<std::string>& t, const std::string&
   } else if (cmd == "hold") {
     need(t, 3, "hold <K> <ms> [remote]");
     const int key = parse_key_token(t[1]);
-    const long ms = parse_long(t[2], "time");
+    const long ms = parse_time(t[2]);
     const bool remote = t.size() > 3 && t[3] == "remote";
-    if (ms < 0 || t.size() > 4 || (t.size() == 4 && !remote))
+    if (t.size() > 4 || (t.size() == 4 && !remote))
       throw scenario_error("usage: hold <K> <ms> [remote]");
     mark_input();
     rt_.press(key, remote);
@@ -150,9 +165,7 @@ void scenario_run::execute(const std::vector<std::string>& t, const std::string&
     event_command(t);
   } else if (cmd == "wait") {
     need(t, 2, "wait <ms>");
-    const long ms = parse_long(t[1], "time");
-    if (ms < 0)
-      throw scenario_error("time cannot go back");
+    const long ms = parse_time(t[1]);
     mark_input();
     rt_.wait(static_cast<unsigned long>(ms));
   } else {

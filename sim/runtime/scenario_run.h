@@ -80,6 +80,10 @@ class scenario_run {
   std::size_t trace_seen_ = 0;
 };
 
+// A contents id token, or a scenario_error.
+int parse_id(const std::string& token);
+// A number that fits an int, or a scenario_error naming `what`.
+int parse_int(const std::string& token, const char* what);
 // Throws scenario_error naming the usage when the line has fewer than `count` tokens.
 void need(const std::vector<std::string>& t, std::size_t count, const char* usage);
 

@@ -237,6 +237,9 @@ TEST_F(ScenarioRunner, MalformedLinesFailTheirFileWithAClearMessage) {
       {"open CID_NOPE", "unknown contents id CID_NOPE"},
       {"wait -5", "time cannot go back"},
       {"wait soon", "bad time soon"},
+      {"wait 999999999999", "one wait lets at most a day (86400000 ms) pass"},
+      {"key 99999999999", "unknown key 99999999999"},
+      {"machine fail invoke 0.1 99999999999", "code out of range: 99999999999"},
       {"machine 0.1 =", "usage: machine <path> = <value>"},
       {"machine 0.230 = 1", "node 0.230 has children"},
       {"machine 1.2 = 1", "a path starts at 0: 1.2"},
@@ -282,6 +285,8 @@ TEST_F(ScenarioRunner, IncludesRunRelativeToTheirFileAndReportTheirOwnLines) {
   EXPECT_EQ(outcome.report, "FAIL " + (dir / "parts/bad.scn").string() +
                                 ":2: expect top 101 -- the top page is CID_02_36_01_N8 (100)");
   EXPECT_FALSE(run("self.scn", "include self.scn\n").passed) << "endless includes stop";
+  const auto directory = run("dir.scn", "include parts\n");
+  EXPECT_EQ(directory.reason, "cannot open " + (dir / "parts").string());
 }
 
 TEST_F(ScenarioRunner, EachFileStartsFresh) {
