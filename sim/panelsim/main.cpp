@@ -16,6 +16,9 @@ int main(int argc, char** argv) {
       "it.\nWithout a command it runs the interactive panel (run)."};
   app.set_version_flag("--version", std::string("panelsim ") + ORVANTA_VERSION);
   app.require_subcommand(0, 1);
+  app.footer(
+      "An ID is a number or a CID_ name. Exit codes: 0 success, 1 a scenario failed, 2 bad "
+      "usage or input.\nThe key map, the scenario language and model files: docs/panelsim.md.");
 
   // `run` is the default command, so its options are also accepted without it.
   std::string run_machine;
