@@ -185,6 +185,13 @@ std::size_t host_clock::pending() const {
   return state().pending.size();
 }
 
+std::optional<unsigned long> host_clock::next_due_ms() const {
+  std::lock_guard<std::mutex> guard(state().lock);
+  if (state().pending.empty())
+    return std::nullopt;
+  return static_cast<unsigned long>(state().pending.begin()->first.first);
+}
+
 void host_clock::reset() {
   clock_state& s = state();
   std::lock_guard<std::mutex> guard(s.lock);

@@ -129,7 +129,23 @@ class host_event_handler final : public dvc_pnl_evh_event_handler {
   int dvc_pnl_evm_notify_panel_event(const dvc_pnl_evh_panel_event& event) override {
     std::lock_guard<std::mutex> guard(lock_);
     queue_.push_back(event);
+    if (keep_log_)
+      log_.push_back(event);
     return 0;
+  }
+
+  std::vector<dvc_pnl_evh_panel_event> take_log() {
+    std::lock_guard<std::mutex> guard(lock_);
+    std::vector<dvc_pnl_evh_panel_event> out;
+    out.swap(log_);
+    return out;
+  }
+
+  void set_keep_log(bool on) {
+    std::lock_guard<std::mutex> guard(lock_);
+    keep_log_ = on;
+    if (!on)
+      log_.clear();
   }
 
   // Takes the oldest posted event; false when none is waiting.
@@ -150,11 +166,14 @@ class host_event_handler final : public dvc_pnl_evh_event_handler {
   void clear() {
     std::lock_guard<std::mutex> guard(lock_);
     queue_.clear();
+    log_.clear();
   }
 
  private:
   std::mutex lock_;
   std::deque<dvc_pnl_evh_panel_event> queue_;
+  bool keep_log_ = false;
+  std::vector<dvc_pnl_evh_panel_event> log_;  // every post since the last take, when kept
 };
 
 // Deliberately never destroyed: objects with static lifetime may still post or unsubscribe while
@@ -185,6 +204,14 @@ std::size_t pump() {
 
 std::size_t posted_count() {
   return event_handler().size();
+}
+
+void keep_posted_log(bool on) {
+  event_handler().set_keep_log(on);
+}
+
+std::vector<dvc_pnl_evh_panel_event> take_posted_log() {
+  return event_handler().take_log();
 }
 
 void deliver(const dvc_pnl_evh_panel_event& event) {

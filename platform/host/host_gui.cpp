@@ -188,7 +188,14 @@ int dvu_pnl_gcp_on_key(dvu_pnl_gcp_components* gui, const dvc_pnl_evh_panel_even
     return 1;
   }
   host::gui_script& script = gui->script();
-  script.keys_seen.push_back(event.dvc_pnl_evh_get_id());
+  const int id = event.dvc_pnl_evh_get_id();
+  script.keys_seen.push_back(id);
+  // The flexible keys belong to every layout, so the stand-in answers them itself.
+  if (id == host::kKeyFlexLeft || id == host::kKeyFlexRight) {
+    notify = DVU_PNL_GCP_NOTIFY{};
+    notify.type = id == host::kKeyFlexLeft ? host::kNotifyFlexLeft : host::kNotifyFlexRight;
+    return 0;
+  }
   notify = script.next_notify;
   return 0;
 }

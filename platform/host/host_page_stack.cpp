@@ -361,6 +361,26 @@ dvu_pnl_gcp_parts* add_part(int contents_id, int function, int part_id,
   return slot.get();
 }
 
+dvu_pnl_gcp_parts* add_part(dvu_pnl_gcp_components* gui, int part_id,
+                            std::unique_ptr<dvu_pnl_gcp_parts> part) {
+  if (gui == nullptr)
+    throw std::invalid_argument("add_part: no components");
+  auto& slot = gui->parts()[part_id];
+  slot = std::move(part);
+  return slot.get();
+}
+
+std::vector<std::pair<int, dvu_pnl_gcp_parts*>> parts_of(int contents_id, int function) {
+  std::vector<std::pair<int, dvu_pnl_gcp_parts*>> out;
+  host_page* page = stack().find_first(
+      function, [contents_id](const host_page& p) { return p.contents_id == contents_id; });
+  if (page == nullptr)
+    return out;
+  for (const auto& [id, part] : page->gui->parts())
+    out.emplace_back(id, part.get());
+  return out;
+}
+
 void add_icon_part(int contents_id, int function, int part_id, int icon) {
   auto part = std::make_unique<dvu_pnl_gcp_parts>(dvu_pnl_gcp_part_kind::icon);
   part->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ICON, icon);

@@ -562,6 +562,7 @@ void dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_set_timer(int id, int ms,
     timer->owner = owner;
   }
   timer->handle = timer_hdl_++;
+  timer->period = ms;
   int ret = timer->control.start(ms, dvc_pnl_ceh_timer_proc, timer->handle, ms, 0, 0);
   if (ret != 0)
     CEH_ERR("OSW_Timer_Control::start id:%d ms:%d ret_code = %d", id, ms, ret);
@@ -656,6 +657,15 @@ int dvc_pnl_ceh_event_proxy::running_timer_count(
       ++n;
   }
   return n;
+}
+
+int dvc_pnl_ceh_event_proxy::timer_period(const dvc_pnl_ceh_contents_interface* owner,
+                                          int id) const {
+  for (const auto& t : timers_) {
+    if (t->id != -1 && t->id == id && t->owner == owner)
+      return t->period;
+  }
+  return -1;
 }
 
 void dvc_pnl_ceh_event_proxy::reset_for_tests() {

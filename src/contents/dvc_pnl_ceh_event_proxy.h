@@ -64,6 +64,7 @@ struct timer_info {
   timer_info() : control(32768) {}
   int id = -1;
   int handle = 0;
+  int period = 0;  // ms of the latest start, for inspection
   OSW_Timer_Control control;
   dvc_pnl_ceh_contents_interface* owner = nullptr;
 };
@@ -130,6 +131,8 @@ class dvc_pnl_ceh_event_proxy : public dvu_pnl_evd_event_handler {
   void reset_for_tests();
   // Rows of the timer table that run now (id not -1), for inspection.
   int running_timer_count(const dvc_pnl_ceh_contents_interface* owner) const;
+  // The period of owner's timer `id` while it runs, else -1.
+  int timer_period(const dvc_pnl_ceh_contents_interface* owner, int id) const;
 
   // 1 while a dispatch runs.
   static int event_dispatch_;

@@ -447,6 +447,9 @@ TEST_F(EventProxyTest, TimerRestartedInItsOwnHandlerRunsWithTheNewPeriod) {
   EXPECT_EQ(journal_with("timer"),
             (std::vector<std::string>{"timer 100 5 at 100", "timer 100 5 at 400",
                                       "timer 100 5 at 700", "timer 100 5 at 1000"}));
+  EXPECT_EQ(proxy()->timer_period(a, 5), 300) << "the period follows the latest start";
+  a->kill_timer(5);
+  EXPECT_EQ(proxy()->timer_period(a, 5), -1);
 }
 
 TEST_F(EventProxyTest, StaleExpiryOfARestartedTimerIsDropped) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -170,6 +171,19 @@ TEST_F(VirtualClock, AZeroMsTimerRunsOnlyWhenDueTimersAreRun) {
   EXPECT_EQ(g_expiries.size(), 1u) << "a timer is one-shot";
 }
 
+TEST_F(VirtualClock, NextDueNamesTheEarliestRunningTimer) {
+  OSW_Timer_Control t1(32768), t2(32768);
+  EXPECT_EQ(clock.next_due_ms(), std::nullopt);
+  clock.advance(5);
+  t1.start(30, record_expiry, 1, 0, 0, 0);
+  t2.start(10, record_expiry, 2, 0, 0, 0);
+  EXPECT_EQ(clock.next_due_ms(), std::optional<unsigned long>(15));
+  t2.stop();
+  EXPECT_EQ(clock.next_due_ms(), std::optional<unsigned long>(35));
+  clock.advance(30);
+  EXPECT_EQ(clock.next_due_ms(), std::nullopt);
+}
+
 TEST_F(VirtualClock, RunDueLeavesLaterTimersAndTime) {
   OSW_Timer_Control t(32768);
   clock.advance(5);
@@ -328,6 +342,26 @@ TEST_F(EventPump, EachSubscribedHandlerHearsAnEventOnceThenTheAfterEventHandlers
   deliver(dvc_pnl_evh_panel_event(100));
   deliver(dvc_pnl_evh_panel_event(200));  // nobody subscribed: only the after-event handler
   EXPECT_EQ(heard, (std::vector<std::string>{"h1:100", "h2:100", "after:100", "after:200"}));
+}
+
+TEST_F(EventPump, ThePostedLogKeepsDeliveredEventsOnlyWhileAsked) {
+  post(5);
+  EXPECT_TRUE(take_posted_log().empty()) << "off by default";
+  keep_posted_log(true);
+  post(6);
+  post(7);
+  pump();
+  std::vector<int> ids;
+  for (const auto& e : take_posted_log())
+    ids.push_back(e.dvc_pnl_evh_get_id());
+  EXPECT_EQ(ids, (std::vector<int>{6, 7}));
+  EXPECT_TRUE(take_posted_log().empty()) << "a take empties the log";
+  post(8);
+  reset();
+  EXPECT_TRUE(take_posted_log().empty()) << "reset empties the log";
+  post(9);
+  EXPECT_EQ(take_posted_log().size(), 1u) << "and keeps the setting";
+  keep_posted_log(false);
 }
 
 TEST_F(EventPump, EachRemoveTakesOneCount) {
@@ -992,6 +1026,19 @@ TEST_F(GuiComponents, KeysAreRecordedAndAnsweredWithTheScriptedNotify) {
   dvu_pnl_gcp_on_key(gui, dvc_pnl_evh_panel_event(61), n);
   EXPECT_EQ(n.type, 3) << "the scripted answer stays until changed";
   EXPECT_EQ(script->keys_seen, (std::vector<int>{40, 61}));
+}
+
+TEST_F(GuiComponents, FlexibleKeysAnswerButtonNotifiesWhateverTheScriptSays) {
+  script->next_notify = DVU_PNL_GCP_NOTIFY{6, 0, 2, 64, 1};
+  DVU_PNL_GCP_NOTIFY n{};
+  dvu_pnl_gcp_on_key(gui, dvc_pnl_evh_panel_event(kKeyFlexLeft), n);
+  EXPECT_EQ(n.type, kNotifyFlexLeft);
+  EXPECT_EQ(n.repeat_kind, 0);
+  dvu_pnl_gcp_on_key(gui, dvc_pnl_evh_panel_event(kKeyFlexRight), n);
+  EXPECT_EQ(n.type, kNotifyFlexRight);
+  dvu_pnl_gcp_on_key(gui, dvc_pnl_evh_panel_event(58), n);
+  EXPECT_EQ(n.type, 6) << "other keys keep the scripted answer";
+  EXPECT_EQ(script->keys_seen, (std::vector<int>{kKeyFlexLeft, kKeyFlexRight, 58}));
 }
 
 TEST_F(GuiComponents, CursorInfoFollowsTheScript) {

@@ -5,7 +5,9 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "orvanta/platform/dvc_pnl_ceh_contents_interface.h"
@@ -34,6 +36,8 @@ class host_clock {
   void run_due();
   // Number of timers started and not yet expired or stopped.
   std::size_t pending() const;
+  // The due time of the earliest running timer, or nothing when none runs.
+  std::optional<unsigned long> next_due_ms() const;
   // Back to 0 with no timers (a fresh run).
   void reset();
 };
@@ -46,6 +50,11 @@ class host_clock {
 std::size_t pump();
 // Events posted and not yet delivered.
 std::size_t posted_count();
+// While kept (off by default; reset() keeps the setting and empties the log), every posted event
+// is also copied to a log, so that a runner can see what the panel threw even after delivery.
+void keep_posted_log(bool on);
+// The events posted since the previous take, oldest first; empties the log.
+std::vector<dvc_pnl_evh_panel_event> take_posted_log();
 // Delivers one event now to every handler subscribed to its id, once each however often it is
 // subscribed and in the order of subscription, then to the after-event handlers. A handler that
 // an earlier one unsubscribes during this delivery does not hear the event.
@@ -109,6 +118,13 @@ gui_script* gui_of(int contents_id, int function);
 // std::invalid_argument when no such page is open.
 dvu_pnl_gcp_parts* add_part(int contents_id, int function, int part_id,
                             std::unique_ptr<dvu_pnl_gcp_parts> part);
+// The same on the components that the contents creator is handed, before the contents is built:
+// the parts a page's layout starts with. Throws std::invalid_argument for null components.
+dvu_pnl_gcp_parts* add_part(dvu_pnl_gcp_components* gui, int part_id,
+                            std::unique_ptr<dvu_pnl_gcp_parts> part);
+// The parts of the open page `contents_id` of `function` by ascending part id; empty when no
+// such page is open.
+std::vector<std::pair<int, dvu_pnl_gcp_parts*>> parts_of(int contents_id, int function);
 // The same for an icon part showing `icon`, and for an empty list part.
 void add_icon_part(int contents_id, int function, int part_id, int icon);
 dvu_pnl_gcp_list* add_list_part(int contents_id, int function, int part_id);
@@ -157,6 +173,14 @@ inline constexpr int kIconBandTop = 8;  // each further band starts kBandHeight 
 // 87; other keys have no hard key.
 inline constexpr unsigned long kKeyboardCodeNode = 4166;
 inline constexpr unsigned long kKeyboardReleaseNode = 4167;
+
+// The two flexible keys under the LCD. The GUI stand-in answers them itself, whatever the page's
+// script says: the left one reports a button notify of type 3, the right one type 4 (no repeat).
+// Their ids lie in the range of key events, so a key's operation source is read from them.
+inline constexpr int kKeyFlexLeft = 31;
+inline constexpr int kKeyFlexRight = 32;
+inline constexpr int kNotifyFlexLeft = 3;
+inline constexpr int kNotifyFlexRight = 4;
 
 // ---- devices ----
 

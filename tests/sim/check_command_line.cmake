@@ -1,0 +1,77 @@
+# Runs panelsim's commands and checks their output, files and exit codes.
+file(REMOVE_RECURSE ${WORK})
+file(MAKE_DIRECTORY ${WORK})
+
+# run(<name> <expected exit code> args...): output in <name>_out and <name>_err.
+function(run name code)
+  execute_process(COMMAND ${PANELSIM} ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE out
+                  ERROR_VARIABLE err INPUT_FILE /dev/null WORKING_DIRECTORY ${WORK})
+  if(NOT rc EQUAL code)
+    message(FATAL_ERROR "panelsim ${ARGN}: exit code ${rc}, wanted ${code}\n${out}${err}")
+  endif()
+  set(${name}_out "${out}" PARENT_SCOPE)
+  set(${name}_err "${err}" PARENT_SCOPE)
+endfunction()
+
+function(expect_in what text)
+  string(FIND "${text}" "${what}" at)
+  if(at EQUAL -1)
+    message(FATAL_ERROR "wanted \"${what}\" in:\n${text}")
+  endif()
+endfunction()
+
+run(help 0 --help)
+foreach(command run demo script info shot --machine --function --record --version)
+  expect_in("${command}" "${help_out}")
+endforeach()
+run(version 0 --version)
+expect_in("panelsim 0.1.0" "${version_out}")
+run(bogus 2 --bogus)
+run(bogus_command 2 frobnicate)
+
+run(info 0 info CID_MNT_006 1703 10 CID_01_01_N1)
+set(wanted "2249 CID_MNT_006 d_mnt_006 group=0 state=2
+1703 CID_08_05_N1 d_03_05 group=0 state=2
+10 CID_02_01_N3 none group=0 state=2
+0 CID_01_01_N1 d_07_01 group=0 state=3
+")
+if(NOT info_out STREQUAL wanted)
+  message(FATAL_ERROR "info printed:\n${info_out}wanted:\n${wanted}")
+endif()
+run(info_bad 2 info 5 CID_NO_SUCH)
+expect_in("unknown contents id CID_NO_SUCH" "${info_bad_err}")
+run(info_none 2 info)
+
+run(shot_pbm 0 shot CID_02_44_N1 --pbm shot.pbm)
+file(READ ${WORK}/shot.pbm shot HEX)
+file(READ ${SOURCE}/../scenarios/frames/cid_02_44_n1.pbm stored HEX)
+if(NOT shot STREQUAL stored)
+  message(FATAL_ERROR "shot --pbm differs from the stored frame of the scenario")
+endif()
+run(shot_png 0 shot CID_02_44_N1 --png shot.png)
+file(READ ${WORK}/shot.png png LIMIT 4 HEX)
+if(NOT png STREQUAL "89504e47")
+  message(FATAL_ERROR "shot --png did not write a PNG (${png})")
+endif()
+run(shot_text 0 shot CID_02_44_N1 --function 9)
+expect_in("123 text \"CID_02_44_N1\"" "${shot_text_out}")
+run(shot_blank 0 shot CID_01_01_N1)
+expect_in("sent no frame to the LCD" "${shot_blank_err}")
+run(shot_none 2 shot 10)
+expect_in("opens no screen" "${shot_none_err}")
+run(shot_both 2 shot 0 --png a.png --pbm a.pbm)
+
+file(WRITE ${WORK}/bad.json "{\"nodes\": {\"0.1\": [1]}}")
+file(WRITE ${WORK}/good.json "{\"nodes\": {\"0.77.1\": \"from the file\"}}")
+file(WRITE ${WORK}/model.scn "expect node 0.77.1 = \"from the file\"\n")
+run(bad_model 2 script model.scn --machine bad.json)
+expect_in("bad model file bad.json" "${bad_model_err}")
+run(missing_model 2 demo --machine nothere.json)
+run(good_model 0 script model.scn --machine good.json)
+run(without_model 1 script model.scn)
+
+run(demo 0 demo)
+expect_in("Stop goes back to the top of the function" "${demo_out}")
+run(no_terminal 0)
+expect_in("no terminal; running the demo instead" "${no_terminal_err}")
+expect_in("== copy: its home screen opens" "${no_terminal_out}")
