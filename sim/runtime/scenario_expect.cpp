@@ -204,7 +204,7 @@ void scenario_run::expect(const std::vector<std::string>& t, const std::string& 
   } else if (what == "rows") {
     need(t, 3, "expect rows <n>");
     const int want = parse_int(t[2], "row count");
-    const int have = top_list(rt_)->dvu_pnl_gcp_get_max_row();
+    const int have = top_list(rt_)->dvu_pnl_gcp_get_max_row() + 1;  // index of the last row
     if (have != want)
       throw expectation_failed("the list has " + std::to_string(have) + " rows");
   } else if (what == "row") {
@@ -433,7 +433,7 @@ void scenario_run::expect_row(const std::vector<std::string>& t) {
   dvu_pnl_gcp_list* list = top_list(rt_);
   dvu_pnl_gcp_list_row* row = nullptr;
   if (list->dvu_pnl_gcp_get_row(index, row) != 0 || row == nullptr)
-    throw expectation_failed("the list has " + std::to_string(list->dvu_pnl_gcp_get_max_row()) +
+    throw expectation_failed("the list has " + std::to_string(list->dvu_pnl_gcp_get_max_row() + 1) +
                              " rows");
   check_attribute(*row, parse_int(t[4], "attribute"), parse_value(t[6]), "row " + t[2]);
 }

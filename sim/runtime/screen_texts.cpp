@@ -1,6 +1,9 @@
 // The listing of the texts and icons that the parts of a screen show.
 #include "orvanta/sim/screen_texts.h"
 
+#include "orvanta/host/panel_host.h"
+#include "orvanta/platform/dvu_pnl_gcp_resource.h"
+
 namespace orvanta::sim {
 namespace {
 
@@ -18,9 +21,12 @@ void add_label_items(const dvu_pnl_gcp_label& label, int part, int row,
 
 }  // namespace
 
+void resource_table::add_text(int id, const std::string& text) {
+  host::set_text_resource(id, text);
+}
+
 std::string resource_table::text(int id) const {
-  auto it = texts_.find(id);
-  return it == texts_.end() ? std::to_string(id) : it->second;
+  return dvu_pnl_gcp_resource::get_text_resource(id);
 }
 
 std::string resource_table::icon(int id) const {
@@ -43,7 +49,7 @@ std::vector<shown_item> shown_items(const std::vector<std::pair<int, dvu_pnl_gcp
       }
       case dvu_pnl_gcp_part_kind::list: {
         auto* list = static_cast<dvu_pnl_gcp_list*>(part);
-        for (int r = 0; r < list->dvu_pnl_gcp_get_max_row(); ++r) {
+        for (int r = 0; r <= list->dvu_pnl_gcp_get_max_row(); ++r) {
           dvu_pnl_gcp_list_row* row = nullptr;
           if (list->dvu_pnl_gcp_get_row(r, row) == 0 && row != nullptr)
             add_label_items(*row, id, r, resources, out);

@@ -10,6 +10,7 @@
 #include "orvanta/host/trace_sink.h"
 #include "orvanta/machine/simulated_machine.h"
 #include "orvanta/platform/dvc_pnl_pdm_keys.h"
+#include "orvanta/platform/dvu_pnl_gcp_resource.h"
 #include "scripted_screen.h"
 
 namespace orvanta::test {
@@ -144,6 +145,9 @@ TEST_F(Runtime, TopItemsListWhatThePartsShowWithResourcesResolved) {
             "19 icon 12\n64.0 text \"Anna\"\n64.0 icon 5\n67 text \"Copy\"\n");
   rt->resources().add_icon(12, "copy-icon");
   EXPECT_EQ(rt->top_items().front().text, "copy-icon");
+  // Texts are the host's resource table, which the library reads too; it outlives resets.
+  EXPECT_EQ(dvu_pnl_gcp_resource::get_text_resource(300), "Copy");
+  host::clear_text_resources();
 }
 
 TEST_F(Runtime, TheRealClockFiresTimersWithoutBeingAsked) {

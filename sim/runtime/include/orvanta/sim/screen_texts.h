@@ -10,19 +10,18 @@
 
 namespace orvanta::sim {
 
-// Texts and icon names by resource id. The layout and resource files of the panel are not part
-// of the project yet, so the table starts empty and every id shows as its number; entries can
-// be added as resources become known.
+// Texts and icon names by resource id. Texts live in the host's resource table, which the panel
+// library reads as well (dvu_pnl_gcp_resource); icon names are the simulator's own. Both start
+// empty, so every id shows as its number, and entries can be added as resources become known.
 class resource_table {
  public:
-  void add_text(int id, std::string text) { texts_[id] = std::move(text); }
+  void add_text(int id, const std::string& text);
   void add_icon(int id, std::string name) { icons_[id] = std::move(name); }
   // The entry for `id`, or the id as a decimal number.
   std::string text(int id) const;
   std::string icon(int id) const;
 
  private:
-  std::map<int, std::string> texts_;
   std::map<int, std::string> icons_;
 };
 
