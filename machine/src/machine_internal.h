@@ -9,7 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "orvanta/machine/lock_service.h"
 #include "orvanta/machine/simulated_machine.h"
+#include "orvanta/platform/dvc_pnl_cmn_error_table.h"
 
 namespace orvanta::machine::detail {
 
@@ -45,9 +47,17 @@ struct model {
   std::map<std::string, list_data> lists;      // by dotted command path
   std::map<std::string, answer_data> answers;  // by dotted command path
   bool replace = false;
+  std::vector<lock_record> locks;  // records other panels hold
+  // Rows for the platform's error table; the table stays as it is without them.
+  std::optional<std::vector<DVC_PNL_CMN_ERROR_TABLE_ROW>> error_table;
 };
 // Throws std::runtime_error with a readable text for malformed JSON or content.
 model parse_model(const std::string& text);
+
+// The lock service: registers its two commands on `machine` with nothing held; and adds the
+// records of a model file that other panels hold (after dropping the earlier ones on `replace`).
+void install_lock_service(simulated_machine& machine);
+void apply_locks(const std::vector<lock_record>& records, bool replace);
 
 // The simulator's sample machine, as a model file.
 const char* default_model_json();

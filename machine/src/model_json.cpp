@@ -130,6 +130,48 @@ answer_data answer_of(const json& j, const std::string& where) {
   return entries;
 }
 
+long integer_of(const json& j, const std::string& where) {
+  if (!j.is_number_integer() ||
+      (j.is_number_unsigned() &&
+       j.get<unsigned long long>() >
+           static_cast<unsigned long long>(std::numeric_limits<long>::max()))) {
+    fail(where + ": must be an integer within long");
+  }
+  return j.get<long>();
+}
+
+// {"kind": 5, "first": 2, "second": 7}; "first" and "second" default to 0.
+lock_record lock_of(const json& j, const std::string& where) {
+  if (!j.is_object() || !j.contains("kind"))
+    fail(where + ": a lock must be an object with \"kind\" and optional \"first\", \"second\"");
+  lock_record r{0, 0, 0};
+  for (const auto& [name, item] : j.items()) {
+    if (name == "kind")
+      r.kind = integer_of(item, where + " kind");
+    else if (name == "first")
+      r.first = integer_of(item, where + " first");
+    else if (name == "second")
+      r.second = integer_of(item, where + " second");
+    else
+      fail(where + ": unknown member \"" + name + "\"");
+  }
+  return r;
+}
+
+// Six integers: contents id, buzzer pattern, LED status, open flag, error code, platform word.
+DVC_PNL_CMN_ERROR_TABLE_ROW error_row_of(const json& j, const std::string& where) {
+  if (!j.is_array() || j.size() != 6)
+    fail(where + ": an error table row must be six integers");
+  int words[6];
+  for (std::size_t i = 0; i < 6; ++i) {
+    const long v = integer_of(j[i], where);
+    if (v < std::numeric_limits<int>::min() || v > std::numeric_limits<int>::max())
+      fail(where + ": error table values must fit an int");
+    words[i] = static_cast<int>(v);
+  }
+  return {words[0], words[1], words[2], words[3], words[4], words[5]};
+}
+
 }  // namespace
 
 model parse_model(const std::string& text) {
@@ -164,12 +206,25 @@ model parse_model(const std::string& text) {
         const std::string where = "answer " + p;
         m.answers[to_dotted(node_path(p, where))] = answer_of(value, where);
       }
+    } else if (name == "locks") {
+      if (!item.is_array())
+        fail("\"locks\" must be an array of locks other panels hold");
+      for (std::size_t i = 0; i < item.size(); ++i)
+        m.locks.push_back(lock_of(item[i], "lock " + std::to_string(i)));
+    } else if (name == "error_table") {
+      if (!item.is_array())
+        fail("\"error_table\" must be an array of rows");
+      std::vector<DVC_PNL_CMN_ERROR_TABLE_ROW> rows;
+      for (std::size_t i = 0; i < item.size(); ++i)
+        rows.push_back(error_row_of(item[i], "error table row " + std::to_string(i)));
+      m.error_table = std::move(rows);
     } else if (name == "replace") {
       if (!item.is_boolean())
         fail("\"replace\" must be true or false");
       m.replace = item.get<bool>();
     } else {
-      fail("unknown member \"" + name + "\" (expected nodes, lists, answers, replace)");
+      fail("unknown member \"" + name +
+           "\" (expected nodes, lists, answers, locks, error_table, replace)");
     }
   }
   // A command has one handler.

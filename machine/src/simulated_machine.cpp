@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "machine_internal.h"
+#include "orvanta/host/error_table.h"
 #include "orvanta/host/value_faults.h"
 #include "orvanta/platform/dvu_pnl_evd_event_dispatcher.h"
 
@@ -261,6 +262,11 @@ struct simulated_machine::impl {
       lists.erase(command);
       answers[command] = answer_group(entries);
     }
+    detail::apply_locks(m.locks, m.replace);
+    if (m.error_table)
+      host::set_error_table(std::move(*m.error_table));
+    else if (m.replace)
+      host::reset_error_table();
   }
 };
 
@@ -497,6 +503,7 @@ void simulated_machine::reset() {
   const std::string error = load_model_json(detail::default_model_json(), true);
   if (!error.empty())
     throw std::logic_error("default model: " + error);
+  detail::install_lock_service(*this);
 }
 
 std::string simulated_machine::load_model_json(const std::string& text, bool replace) {

@@ -9,5 +9,8 @@
 #include "contents/dvc_pnl_ceh_logger.h"
 #include "screens/dvc_pnl_ceh_screens.h"
 #include "services/dvc_pnl_ceh_contents_hdl_validator.h"
+#include "services/dvc_pnl_ceh_exclusive_lock_manager.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_conditions.h"
+#include "util/dvc_pnl_ceh_contents_hdl_util_errors.h"
+#include "util/dvc_pnl_ceh_contents_hdl_util_notices.h"

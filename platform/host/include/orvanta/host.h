@@ -2,6 +2,7 @@
 #pragma once
 
 #include "orvanta/host/dm_key_registry.h"
+#include "orvanta/host/error_table.h"
 #include "orvanta/host/host_data_manager.h"
 #include "orvanta/host/page_lifecycle.h"
 #include "orvanta/host/panel_host.h"
