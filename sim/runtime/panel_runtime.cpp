@@ -10,6 +10,7 @@
 #include "contents/dvc_pnl_ceh_contents_hdl_base.h"
 #include "contents/dvc_pnl_ceh_contents_proc_factory.h"
 #include "contents/dvc_pnl_ceh_event_proxy.h"
+#include "contents/dvc_pnl_ceh_statics.h"
 #include "orvanta/host/trace_sink.h"
 #include "orvanta/machine/simulated_machine.h"
 #include "orvanta/platform/dvc_pnl_cmm_key.h"
@@ -85,9 +86,7 @@ panel_runtime::~panel_runtime() {
     ticker_.join();
   std::lock_guard<std::recursive_mutex> guard(lock_);
   host::reset();
-  proxy()->reset_for_tests();
-  dvc_pnl_ceh_contents_base::reset_statics();
-  dvc_pnl_ceh_contents_hdl_base::reset_statics();
+  dvc_pnl_ceh_reset_library_statics();
   host::keep_posted_log(false);
   host::page_lifecycle::instance().remove_listener(this);
 }
@@ -102,9 +101,7 @@ std::string panel_runtime::reset(const std::string& model) {
   std::lock_guard<std::recursive_mutex> guard(lock_);
   // Pages go first: their destructors stop timers and let go of holds through the library.
   host::reset();
-  proxy()->reset_for_tests();
-  dvc_pnl_ceh_contents_base::reset_statics();
-  dvc_pnl_ceh_contents_hdl_base::reset_statics();
+  dvc_pnl_ceh_reset_library_statics();
   machine::simulated_machine& m = machine::simulated_machine::instance();
   m.reset();
   std::string error;

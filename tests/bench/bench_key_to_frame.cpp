@@ -3,6 +3,7 @@
 
 #include "contents/dvc_pnl_ceh_contents_hdl_base.h"
 #include "contents/dvc_pnl_ceh_event_proxy.h"
+#include "contents/dvc_pnl_ceh_statics.h"
 #include "orvanta/host/panel_host.h"
 #include "orvanta/host/trace_sink.h"
 
@@ -31,9 +32,7 @@ class counter_page : public dvc_pnl_ceh_contents_hdl_base {
 void BM_KeyToFrame(benchmark::State& state) {
   dvc_pnl_ceh_event_proxy* proxy = dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_get_instance();
   host::reset();
-  proxy->reset_for_tests();
-  dvc_pnl_ceh_contents_base::reset_statics();
-  dvc_pnl_ceh_contents_hdl_base::reset_statics();
+  dvc_pnl_ceh_reset_library_statics();
   host::set_contents_creator(
       [](int id, dvu_pnl_gcp_components* gui) -> dvc_pnl_ceh_contents_interface* {
         return new counter_page(id, gui);
@@ -63,7 +62,7 @@ void BM_KeyToFrame(benchmark::State& state) {
 
   host::trace_sink::instance().set_level_limit(2);
   host::reset();
-  proxy->reset_for_tests();
+  dvc_pnl_ceh_reset_library_statics();
 }
 BENCHMARK(BM_KeyToFrame);
 

@@ -2,6 +2,7 @@
 #include "contents_probe.h"
 
 #include "contents/dvc_pnl_ceh_contents_proc_factory.h"
+#include "contents/dvc_pnl_ceh_statics.h"
 #include "orvanta/host/panel_host.h"
 #include "support/valueset_builder.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_dm.h"
@@ -164,9 +165,7 @@ int get_app_int(const std::string& key) {
 
 void ProbeFixture::SetUp() {
   host::reset();
-  proxy()->reset_for_tests();
-  dvc_pnl_ceh_contents_base::reset_statics();
-  dvc_pnl_ceh_contents_hdl_base::reset_statics();
+  dvc_pnl_ceh_reset_library_statics();
   hooks_by_id().clear();
   journal().clear();
   host::set_contents_creator(
@@ -178,8 +177,7 @@ void ProbeFixture::SetUp() {
 
 void ProbeFixture::TearDown() {
   host::reset();
-  proxy()->reset_for_tests();
-  dvc_pnl_ceh_contents_base::reset_statics();
+  dvc_pnl_ceh_reset_library_statics();
   hooks_by_id().clear();
   journal().clear();
 }
