@@ -3,6 +3,7 @@
 #include "util/dvc_pnl_ceh_contents_hdl_util_conditions.h"
 
 #include <string>
+#include <utility>
 
 #include "util/dvc_pnl_ceh_contents_hdl_util_cmm.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_conditions_internal.h"
@@ -17,28 +18,30 @@ namespace orvanta {
 
 namespace conditions {
 
-int read_int(const path& node, long& value, int start) {
-  long read = 0;
-  const int ret = dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm(
-      node.data(), start, static_cast<unsigned>(node.size()), read);
+namespace {
+
+// Reads through `get` into a temporary and hands it over only on success, so that the caller's
+// preset stands after a failed read.
+template <typename T, typename Get>
+int read_setting(Get get, const path& node, T& value, int start) {
+  T read{};
+  const int ret = get(node.data(), start, static_cast<unsigned>(node.size()), read);
   if (ret != DVC_PNL_CEH_RET_OK) {
     CEH_ERR("retrieval of setting from cmm failed. ret_code = %d", ret);
     return ret;
   }
-  value = read;
+  value = std::move(read);
   return DVC_PNL_CEH_RET_OK;
 }
 
+}  // namespace
+
+int read_int(const path& node, long& value, int start) {
+  return read_setting(dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm, node, value, start);
+}
+
 int read_string(const path& node, std::string& value, int start) {
-  std::string read;
-  const int ret = dvc_pnl_ceh_contents_hdl_get_string_from_pnl_cmm(
-      node.data(), start, static_cast<unsigned>(node.size()), read);
-  if (ret != DVC_PNL_CEH_RET_OK) {
-    CEH_ERR("retrieval of setting from cmm failed. ret_code = %d", ret);
-    return ret;
-  }
-  value = read;
-  return DVC_PNL_CEH_RET_OK;
+  return read_setting(dvc_pnl_ceh_contents_hdl_get_string_from_pnl_cmm, node, value, start);
 }
 
 int answer_equals(const path& node, long yes, int failure, int start) {
