@@ -342,23 +342,13 @@ int dvc_pnl_ceh_contents_hdl_set_data_to_pnl_cmm(const unsigned long* node_name,
   return checked(mediator().dvc_pnl_cmm_set_value(key, group, DVC_PNL_CEH_CMM_MODE), kSetValue);
 }
 
-int dvc_pnl_ceh_contents_hdl_set_int_to_pnl_cmm(const unsigned long* node_name, int vs_start_pos,
-                                                unsigned nsize, const long& value) {
-  const char* op = "dvc_pnl_ceh_contents_hdl_set_int_to_pnl_cmm";
-  int ret = check_arguments(op, node_name, vs_start_pos, nsize);
-  if (ret != DVC_PNL_CEH_RET_OK)
-    return ret;
-  trace_entry(op, node_name, vs_start_pos, nsize);
-  dvc_pnl_cmm_value v;
-  ret = checked(v.dvc_pnl_cmm_set_int(value), "dvc_pnl_cmm_value::dvc_pnl_cmm_set_int");
-  if (ret != DVC_PNL_CEH_RET_OK)
-    return ret;
-  return write_node(node_name, vs_start_pos, nsize, NODE_TYPE_INTEGER, v);
-}
+namespace {
 
-int dvc_pnl_ceh_contents_hdl_set_string_to_pnl_cmm(const unsigned long* node_name, int vs_start_pos,
-                                                   unsigned nsize, const char* value) {
-  const char* op = "dvc_pnl_ceh_contents_hdl_set_string_to_pnl_cmm";
+// The typed writes: argument checks, a NULL `value` refused, the entry trace, the value made by
+// `make` (traced as `maker` on failure) and the write of the node or of the entry in its group.
+template <typename Make>
+int write_typed(const char* op, const unsigned long* node_name, int vs_start_pos, unsigned nsize,
+                const void* value, const NAME_SPACE_NODE_TYPE& type, const char* maker, Make make) {
   int ret = check_arguments(op, node_name, vs_start_pos, nsize);
   if (ret != DVC_PNL_CEH_RET_OK)
     return ret;
@@ -368,25 +358,35 @@ int dvc_pnl_ceh_contents_hdl_set_string_to_pnl_cmm(const unsigned long* node_nam
   }
   trace_entry(op, node_name, vs_start_pos, nsize);
   dvc_pnl_cmm_value v;
-  ret = checked(v.dvc_pnl_cmm_set_string(value), "dvc_pnl_cmm_value::dvc_pnl_cmm_set_string");
+  ret = checked(make(v), maker);
   if (ret != DVC_PNL_CEH_RET_OK)
     return ret;
-  return write_node(node_name, vs_start_pos, nsize, NODE_TYPE_STRING, v);
+  return write_node(node_name, vs_start_pos, nsize, type, v);
+}
+
+}  // namespace
+
+int dvc_pnl_ceh_contents_hdl_set_int_to_pnl_cmm(const unsigned long* node_name, int vs_start_pos,
+                                                unsigned nsize, const long& value) {
+  return write_typed("dvc_pnl_ceh_contents_hdl_set_int_to_pnl_cmm", node_name, vs_start_pos, nsize,
+                     &value, NODE_TYPE_INTEGER, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_int",
+                     [&value](dvc_pnl_cmm_value& v) { return v.dvc_pnl_cmm_set_int(value); });
+}
+
+int dvc_pnl_ceh_contents_hdl_set_string_to_pnl_cmm(const unsigned long* node_name, int vs_start_pos,
+                                                   unsigned nsize, const char* value) {
+  return write_typed("dvc_pnl_ceh_contents_hdl_set_string_to_pnl_cmm", node_name, vs_start_pos,
+                     nsize, value, NODE_TYPE_STRING, "dvc_pnl_cmm_value::dvc_pnl_cmm_set_string",
+                     [value](dvc_pnl_cmm_value& v) { return v.dvc_pnl_cmm_set_string(value); });
 }
 
 int dvc_pnl_ceh_contents_hdl_set_valueset_to_pnl_cmm(const unsigned long* node_name,
                                                      int vs_start_pos, unsigned nsize,
                                                      const dvc_pnl_cmm_valueset& value) {
-  const char* op = "dvc_pnl_ceh_contents_hdl_set_valueset_to_pnl_cmm";
-  int ret = check_arguments(op, node_name, vs_start_pos, nsize);
-  if (ret != DVC_PNL_CEH_RET_OK)
-    return ret;
-  trace_entry(op, node_name, vs_start_pos, nsize);
-  dvc_pnl_cmm_value v;
-  ret = checked(v.dvc_pnl_cmm_set_valueset(value), "dvc_pnl_cmm_value::dvc_pnl_cmm_set_valueset");
-  if (ret != DVC_PNL_CEH_RET_OK)
-    return ret;
-  return write_node(node_name, vs_start_pos, nsize, NODE_TYPE_VALUESET, v);
+  return write_typed("dvc_pnl_ceh_contents_hdl_set_valueset_to_pnl_cmm", node_name, vs_start_pos,
+                     nsize, &value, NODE_TYPE_VALUESET,
+                     "dvc_pnl_cmm_value::dvc_pnl_cmm_set_valueset",
+                     [&value](dvc_pnl_cmm_value& v) { return v.dvc_pnl_cmm_set_valueset(value); });
 }
 
 // ---- position-keyed tables ----
