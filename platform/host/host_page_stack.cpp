@@ -67,6 +67,7 @@ class host_page_stack final : public dvc_pnl_psm_page_stack_matrix {
     page->contents_id = contents_id;
     page->order = order;
     page->gui = std::make_unique<dvu_pnl_gcp_components>(contents_id, function);
+    build_layout(*page->gui);
     // The creator's constructor takes the contents' lock and may ask the page stack for the
     // shown function: nothing of the new page is on the list yet.
     dvc_pnl_ceh_contents_interface* contents = creator_(contents_id, page->gui.get());
@@ -356,18 +357,14 @@ dvu_pnl_gcp_parts* add_part(int contents_id, int function, int part_id,
     throw std::invalid_argument("add_part: no open page " + std::to_string(contents_id) +
                                 " in function " + std::to_string(function));
   }
-  auto& slot = page->gui->parts()[part_id];
-  slot = std::move(part);
-  return slot.get();
+  return page->gui->add(part_id, std::move(part));
 }
 
 dvu_pnl_gcp_parts* add_part(dvu_pnl_gcp_components* gui, int part_id,
                             std::unique_ptr<dvu_pnl_gcp_parts> part) {
   if (gui == nullptr)
     throw std::invalid_argument("add_part: no components");
-  auto& slot = gui->parts()[part_id];
-  slot = std::move(part);
-  return slot.get();
+  return gui->add(part_id, std::move(part));
 }
 
 std::vector<std::pair<int, dvu_pnl_gcp_parts*>> parts_of(int contents_id, int function) {
@@ -382,7 +379,7 @@ std::vector<std::pair<int, dvu_pnl_gcp_parts*>> parts_of(int contents_id, int fu
 }
 
 void add_icon_part(int contents_id, int function, int part_id, int icon) {
-  auto part = std::make_unique<dvu_pnl_gcp_parts>(dvu_pnl_gcp_part_kind::icon);
+  auto part = std::make_unique<dvu_pnl_gcp_icon>();
   part->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ICON, icon);
   add_part(contents_id, function, part_id, std::move(part));
 }

@@ -16,7 +16,6 @@
 #include "orvanta/platform/dvc_pnl_cmm_key.h"
 #include "orvanta/platform/dvc_pnl_cmm_valueset.h"
 #include "orvanta/platform/dvc_pnl_psm_page_stack_matrix.h"
-#include "placeholder_layout.h"
 
 namespace orvanta::sim {
 namespace {
@@ -70,7 +69,6 @@ panel_runtime::panel_runtime(clock_mode mode) : mode_(mode) {
   auto* factory = dvc_pnl_ceh_contents_proc_factory::dvc_pnl_ceh_get_instance();
   host::set_contents_creator(
       [factory](int id, dvu_pnl_gcp_components* gui) -> dvc_pnl_ceh_contents_interface* {
-        add_placeholder_layout(gui);
         return factory->dvc_pnl_ceh_create_contents_proc_class(id, gui);
       });
   host::keep_posted_log(true);

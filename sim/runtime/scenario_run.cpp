@@ -281,18 +281,23 @@ void scenario_run::dm_command(const std::vector<std::string>& t) {
 
 void scenario_run::gui_command(const std::vector<std::string>& t) {
   if (t.size() < 3 || t.size() > 4 || t[1] != "notify")
-    throw scenario_error("usage: gui notify <type> [<repeat kind>]");
+    throw scenario_error("usage: gui notify <type> [<repeat kind>] | gui notify parts");
   const std::optional<top_window> top = rt_.top();
   if (!top)
     throw scenario_error("no page is open");
   host::gui_script* script = host::gui_of(top->contents_id, top->function);
   if (script == nullptr)
     throw scenario_error("the top page has no components");
-  script->next_notify = DVU_PNL_GCP_NOTIFY{};
-  script->next_notify.type = parse_int(t[2], "notify type");
-  script->next_notify.repeat_kind = t.size() > 3 ? parse_int(t[3], "repeat kind") : 0;
-  if (script->next_notify.repeat_kind < 0 || script->next_notify.repeat_kind > 4)
+  if (t[2] == "parts" && t.size() == 3) {
+    script->next_notify.reset();
+    return;
+  }
+  DVU_PNL_GCP_NOTIFY notify{};
+  notify.type = parse_int(t[2], "notify type");
+  notify.repeat_kind = t.size() > 3 ? parse_int(t[3], "repeat kind") : 0;
+  if (notify.repeat_kind < 0 || notify.repeat_kind > 4)
     throw scenario_error("the repeat kind is 0 to 4");
+  script->next_notify = notify;
 }
 
 // ---- input ----

@@ -103,11 +103,12 @@ const std::vector<std::string>& page_stack_log();
 
 // ---- GUI ----
 
-// The host components of a page. Until layouts exist, tests set what the parts answer.
+// What tests can force on the components of a page. Unforced, the parts answer for themselves:
+// their layout decides which parts take keys, what a draw shows and whether a cursor is shown.
 struct gui_script {
-  bool draw_changes = true;          // whether a draw reports a changed image
-  DVU_PNL_GCP_NOTIFY next_notify{};  // what dvu_pnl_gcp_on_key reports, until changed
-  bool has_cursor = false;
+  std::optional<bool> draw_changes;  // forced: a draw answers this and renders only when true
+  std::optional<DVU_PNL_GCP_NOTIFY> next_notify;  // forced: what dvu_pnl_gcp_on_key reports
+  bool has_cursor = false;                        // forces a cursor at cursor_rect
   std::array<int, 4> cursor_rect{};
   std::vector<int> keys_seen;  // event ids handed to dvu_pnl_gcp_on_key
   int draws = 0;               // calls of dvu_pnl_gcp_draw
@@ -133,10 +134,25 @@ dvu_pnl_gcp_list* add_list_part(int contents_id, int function, int part_id);
 // reset() clears every word).
 void set_layout_attributes(int contents_id, unsigned long attributes);
 
-// The resource table behind dvu_pnl_gcp_resource: texts by resource id. It starts empty (every id
-// reads as its number) and, being data rather than state, is kept across reset().
+// The resource table behind dvu_pnl_gcp_resource and the drawing of parts: texts and icon bitmaps
+// by resource id. It starts as the host's resource file that is compiled in, and, being data
+// rather than state, is kept across reset(). An id without a text reads as its number.
+struct icon_bitmap {
+  int width = 0;
+  int height = 0;
+  std::vector<std::string> rows;  // `height` rows of `width` characters: '#' dark, '.' light
+};
 void set_text_resource(int rid, const std::string& text);
 void clear_text_resources();
+// Replaces every text and icon by those of a resource file's content (the format of the file
+// compiled in: "text <id> <text>" lines, and "icon <id> <width> <height>" followed by its rows;
+// blank lines and lines starting with '#' are skipped). Throws std::invalid_argument naming the
+// line of the first error, and then leaves the table as it was.
+void load_resources(const std::string& content);
+// Brings the compiled-in resource file back.
+void restore_default_resources();
+// The bitmap of icon `rid`; false when the table has none.
+bool icon_of(int rid, icon_bitmap& out);
 
 // What the language attribute manager answers: by default neither attribute (a reset brings the
 // defaults back). A manager made unavailable makes dvc_pnl_rmg_get_instance answer nullptr.
@@ -156,16 +172,10 @@ inline constexpr int kFrameBytes = 1024;
 // Whether pixel (x, y) of `img` is dark; false outside the frame.
 bool frame_pixel(const unsigned char* img, int x, int y);
 
-// What a host draw renders until real layouts exist: a one-pixel border, the contents id as a
-// band of 32 blocks (most significant bit first) and under it one such band per icon part, in
-// ascending part id, holding its icon. A block is kBandBitWidth x kBandHeight pixels, dark for a
-// set bit; block i starts at x = kBandLeft + i * kBandBitPitch.
-inline constexpr int kBandLeft = 2;
-inline constexpr int kBandBitPitch = 3;
-inline constexpr int kBandBitWidth = 2;
-inline constexpr int kBandHeight = 4;
-inline constexpr int kIdBandTop = 2;
-inline constexpr int kIconBandTop = 8;  // each further band starts kBandHeight + 1 rows lower
+// The layout of a page is that of its screen family: dvc_pnl_cly_get_layout_name answers the
+// family's name ("d_07_01", ...), and the page starts with that layout's parts. The name of the
+// layout (shared by several families) that a contents id gets, or "" when no family serves it.
+std::string layout_of(int contents_id);
 
 // USB keyboard events carry their key code in the source value set under (0, kKeyboardCodeNode),
 // and a release under (0, kKeyboardReleaseNode) with the value 1. The keyboard convertor maps
