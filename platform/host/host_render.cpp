@@ -251,10 +251,16 @@ std::string fields_text(const dvu_pnl_gcp_input_fields& part, std::vector<int>& 
   return buffer;
 }
 
+// Where a part stands. A part given no size (one a test adds by hand) takes its natural one: a
+// cell pair for an icon, one line to the right edge for anything else.
 rect rect_of(const dvu_pnl_gcp_parts& part) {
   rect r{};
   part.dvu_pnl_gcp_get_position(r.x, r.y);
   part.dvu_pnl_gcp_get_size(r.width, r.height);
+  if (r.width <= 0 || r.height <= 0) {
+    r.width = part.kind() == dvu_pnl_gcp_part_kind::icon ? 2 * kCell : kFrameWidth - r.x;
+    r.height = kRow;
+  }
   return r;
 }
 

@@ -81,6 +81,32 @@ std::string render_braille(const lcd_frame& frame) {
   return out;
 }
 
+std::string render_diff(const lcd_frame& have, const lcd_frame& want) {
+  int first = -1;
+  int last = -1;
+  for (int y = 0; y < kLcdHeight; ++y) {
+    for (int x = 0; x < kLcdWidth; ++x) {
+      if (dark(have, x, y) != dark(want, x, y)) {
+        first = first < 0 ? y : first;
+        last = y;
+      }
+    }
+  }
+  std::string out;
+  for (int y = first; first >= 0 && y <= last; ++y) {
+    char number[16];
+    std::snprintf(number, sizeof number, "%2d ", y);
+    out += number;
+    for (int x = 0; x < kLcdWidth; ++x) {
+      const bool h = dark(have, x, y);
+      const bool w = dark(want, x, y);
+      out += h && w ? '#' : h ? '+' : w ? '-' : '.';
+    }
+    out += '\n';
+  }
+  return out;
+}
+
 std::string to_pbm(const lcd_frame& frame) {
   std::string out = "P4\n128 64\n";
   out.append(reinterpret_cast<const char*>(frame.data()), frame.size());

@@ -489,6 +489,8 @@ void scenario_run::expect_frame(const std::vector<std::string>& t, const std::st
     for (int x = 0; x < kLcdWidth; ++x)
       differ += dark(have, x, y) != dark(stored, x, y) ? 1 : 0;
   }
+  out_ << path << " differs: '+' dark only on the LCD, '-' dark only in the file\n"
+       << render_diff(have, stored);
   throw expectation_failed(std::to_string(differ) + " pixels differ");
 }
 

@@ -1,8 +1,12 @@
 // The scripted test page, its journal and hooks, page helpers and the contents fixture base.
 #include "contents_probe.h"
 
+#include <memory>
+#include <string>
+
 #include "contents/dvc_pnl_ceh_contents_proc_factory.h"
 #include "contents/dvc_pnl_ceh_statics.h"
+#include "orvanta/host/font.h"
 #include "orvanta/host/panel_host.h"
 #include "support/valueset_builder.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util_dm.h"
@@ -170,6 +174,10 @@ void ProbeFixture::SetUp() {
   journal().clear();
   host::set_contents_creator(
       [](int id, dvu_pnl_gcp_components* gui) -> dvc_pnl_ceh_contents_interface* {
+        // Every probe page shows its id, so that a frame tells which page drew it.
+        auto* label = host::add_part(gui, kIdLabelPart, std::make_unique<dvu_pnl_gcp_text>());
+        label->dvu_pnl_gcp_set_size(host::kFrameWidth, host::kGlyphHeight);
+        label->dvu_pnl_gcp_set_str_val(DVU_PNL_GCP_ATTR_LITERAL, std::to_string(id));
         return new probe(id, gui);
       });
   proxy()->dvc_pnl_ceh_event_initialize();

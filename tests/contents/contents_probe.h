@@ -17,6 +17,8 @@ namespace orvanta::test {
 inline constexpr int kFunc = 1;
 // Ordinary pages: group 0, state 2.
 inline constexpr int kA = 100;
+// The part on which every probe page shows its contents id, at the top left of the frame.
+inline constexpr int kIdLabelPart = 9999;
 inline constexpr int kB = 101;
 inline constexpr int kC = 102;
 inline constexpr int kD = 103;

@@ -50,6 +50,22 @@ TEST_F(FrameRender, PixelsFollowTheFrameLayout) {
   EXPECT_FALSE(dark(frame, 128, 0)) << "outside the frame";
 }
 
+TEST_F(FrameRender, DiffShowsTheRowsThatDifferAndWhichSideIsDark) {
+  EXPECT_EQ(render_diff(frame, frame), "");
+  lcd_frame other = frame;
+  set(frame, 0, 3);  // both
+  set(other, 0, 3);
+  set(frame, 1, 3);  // only the first
+  set(other, 2, 5);  // only the second
+  const std::string diff = render_diff(frame, other);
+  const auto lines = cells(diff);
+  ASSERT_EQ(lines.size(), 3u) << "rows 3 to 5";
+  EXPECT_EQ(diff.substr(0, 7), " 3 #+..");
+  EXPECT_EQ(diff.substr(diff.find(" 4 "), 6), " 4 ...");
+  EXPECT_EQ(diff.substr(diff.find(" 5 "), 6), " 5 ..-");
+  EXPECT_EQ(lines[0].size(), 3u + 128u);
+}
+
 TEST_F(FrameRender, HalfBlocksHoldTwoRowsPerLine) {
   set(frame, 0, 0);  // top half of line 0, column 0
   set(frame, 1, 1);  // bottom half of line 0, column 1

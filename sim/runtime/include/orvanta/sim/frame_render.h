@@ -24,6 +24,11 @@ std::string render_boxed(const lcd_frame& frame);
 // Braille patterns: one character holds 2x4 pixels, 16 lines of 64 characters.
 std::string render_braille(const lcd_frame& frame);
 
+// A picture of where two frames differ, for a reader: the rows from the first to the last that
+// differ, each as its number and 128 characters: '#' dark in both, '.' pale in both, '+' dark
+// only in `have`, '-' dark only in `want`. Empty when the frames are equal.
+std::string render_diff(const lcd_frame& have, const lcd_frame& want);
+
 // A binary PBM (P4) of the frame, which has the frame's own bit layout.
 std::string to_pbm(const lcd_frame& frame);
 // Reads a PBM, binary (P4) or plain (P1), of exactly 128x64; answers an error text, empty on
