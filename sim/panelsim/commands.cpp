@@ -3,8 +3,10 @@
 
 #include <fstream>
 #include <iostream>
+#include <stdexcept>
 
 #include "contents/dvc_pnl_ceh_contents_proc_factory.h"
+#include "orvanta/host/panel_host.h"
 #include "orvanta/machine/simulated_machine.h"
 #include "orvanta/sim/frame_render.h"
 #include "orvanta/sim/names.h"
@@ -31,6 +33,23 @@ std::string describe_id(int id) {
 }
 
 }  // namespace
+
+bool load_resource_file(const std::string& path) {
+  if (path.empty())
+    return true;
+  std::string content;
+  if (std::string error = read_file(path, content); !error.empty()) {
+    std::cerr << "panelsim: " << error << "\n";
+    return false;
+  }
+  try {
+    host::load_resources(content);
+  } catch (const std::invalid_argument& e) {
+    std::cerr << "panelsim: bad resource file " << path << ": " << e.what() << "\n";
+    return false;
+  }
+  return true;
+}
 
 bool load_model_file(const std::string& path, std::string& model) {
   model.clear();

@@ -14,6 +14,9 @@ inline constexpr int kExitUsage = 2;
 // Reads a model file into `model` (empty path: no model). On error prints a message and
 // answers false.
 bool load_model_file(const std::string& path, std::string& model);
+// Replaces the panel's resource table by a resource file (empty path: keep the compiled-in one).
+// On error prints a message and answers false.
+bool load_resource_file(const std::string& path);
 
 int command_info(const std::vector<std::string>& ids);
 int command_shot(const std::string& id, int function, const std::string& model,

@@ -20,6 +20,10 @@ int main(int argc, char** argv) {
       "An ID is a number or a CID_ name. Exit codes: 0 success, 1 a scenario failed, 2 bad "
       "usage or input.\nThe key map, the scenario language and model files: docs/panelsim.md.");
 
+  std::string resources;
+  app.add_option("--resources", resources,
+                 "resource file of texts and icons used instead of the compiled-in one");
+
   // `run` is the default command, so its options are also accepted without it.
   std::string run_machine;
   int run_function = 1;
@@ -85,6 +89,8 @@ int main(int argc, char** argv) {
   }
 
   try {
+    if (!load_resource_file(resources))
+      return kExitUsage;
     std::string model;
     if (*script) {
       if (!load_model_file(script_machine, model))

@@ -59,6 +59,23 @@ std::vector<shown_item> shown_items(const std::vector<std::pair<int, dvu_pnl_gcp
       case dvu_pnl_gcp_part_kind::label:
         add_label_items(static_cast<const dvu_pnl_gcp_label&>(*part), id, -1, resources, out);
         break;
+      case dvu_pnl_gcp_part_kind::flexiblekey: {
+        int resource = -1;
+        if (part->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_KEY_TEXT, resource) == 0 &&
+            resource >= 0)
+          out.push_back({id, -1, false, resources.text(resource)});
+        break;
+      }
+      case dvu_pnl_gcp_part_kind::edit_box:
+        out.push_back(
+            {id, -1, false, static_cast<const dvu_pnl_gcp_input_edit_box&>(*part).content()});
+        break;
+      case dvu_pnl_gcp_part_kind::number: {
+        int value = 0;
+        if (part->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_NUMBER, value) == 0)
+          out.push_back({id, -1, false, std::to_string(value)});
+        break;
+      }
       default: {
         int resource = -1;
         std::string literal;
