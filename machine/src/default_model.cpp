@@ -1,5 +1,6 @@
 // The simulator's sample machine: the settings the panel reads, with their defaults, two short
-// lists and fixed answers of the commands the condition queries run. This is sample data for
+// lists, fixed answers of the commands the condition queries run, and the records the record
+// services start with. This is sample data for
 // walking the panel on a PC, not the data of any real machine.
 #include "machine_internal.h"
 
@@ -21,14 +22,17 @@ const char* default_model_json() {
   // 0 user). Address book (0.938.940): 1365 entry number, 1037 name, 1561 kind (0 contact,
   // 1 group). Two user names share a prefix so the text search has more than one match.
   //
+  // The domain name of network login 0.534.535.509: none. Proxy settings 0.633.2561.2568: the same
+  // proxy for both protocols (2569 = 1), no server, ports or exceptions (2570 to 2574 empty).
+  //
+  // The user records and job accounting accounts are not fixed answers: the record services hold
+  // them (default_records() below).
+  //
   // Fixed answers, the same for every request (RESULT 1484 = 0 in each):
   // - user information 0.874.844: whoever is asked about, the guest (user number 102): a local
   //   user (536 = 0) of no domain, no administrator (1561 = 0), using the machine's language 1
   //   (730 = 1, 3170/3891 = 1) and its send screen (3171 = 1, 348 = 0, 3172 = 0), allowed every
   //   function (3060 to 3068 = 0);
-  // - user record 0.681.843.584: the guest, user number 102, name "Guest", account 1;
-  // - job accounting detail 0.679.843.584: account 1 "Guest", code "0001", no restriction
-  //   (1369, 1372, 1374, 1375, 1385 = 0);
   // - mail address confirmation setting 0.874.4241: RESULT only;
   // - send destination size 0.896.901: nothing chosen yet, every count 0;
   // - address book group 0.887.921.584: member counts 2540 = 2, 2541 = 1, 2542 = 0, 2544 = 1,
@@ -150,6 +154,7 @@ const char* default_model_json() {
     "0.534.535.2257.536": 0,
     "0.534.535.537.539": 0,
     "0.534.535.3839": 0,
+    "0.534.535.509": "",
     "0.541.542.543": 0,
 
     "0.633.634.635": 1,
@@ -158,6 +163,12 @@ const char* default_model_json() {
     "0.633.4161.649": 0,
     "0.633.4163.649": 0,
     "0.633.4164.649": 0,
+    "0.633.2561.2568.2569": 1,
+    "0.633.2561.2568.2570": "",
+    "0.633.2561.2568.2571": "",
+    "0.633.2561.2568.2572": "",
+    "0.633.2561.2568.2573": "",
+    "0.633.2561.2568.2574": "",
 
     "0.4167.1499.313": 2024,
     "0.4167.1499.314": 5,
@@ -194,11 +205,6 @@ const char* default_model_json() {
       "3060": 0, "3061": 0, "3062": 0, "3063": 0, "3064": 0, "3065": 0, "3066": 0, "3067": 0,
       "3068": 0
     },
-    "0.681.843.584": {"1484": 0, "1365": 102, "504": "Guest", "1362": 1},
-    "0.679.843.584": {
-      "1484": 0, "1362": 1, "1367": "Guest", "1366": "0001", "1368": "Guest",
-      "1369": 0, "1372": 0, "1374": 0, "1375": 0, "1385": 0
-    },
     "0.874.4241": {"1484": 0},
     "0.896.901": {"1484": 0, "206": 0, "884": 0, "1345": 0, "1569": 0},
     "0.887.921.584": {"1484": 0, "2540": 2, "2541": 1, "2542": 0, "2544": 1, "2875": 2},
@@ -207,6 +213,49 @@ const char* default_model_json() {
     "0.857.866.2885": {"1484": 0, "1541.0.1518": 1}
   }
 })json";
+}
+
+namespace {
+
+dvc_pnl_cmm_value number(long v) {
+  dvc_pnl_cmm_value value;
+  value.dvc_pnl_cmm_set_int(v);
+  return value;
+}
+
+dvc_pnl_cmm_value text(const char* v) {
+  dvc_pnl_cmm_value value;
+  value.dvc_pnl_cmm_set_string(v);
+  return value;
+}
+
+// A user with every field the user record read gives: login name and name `name`, no password,
+// mail or text 1361, account `account` named `account_name`, every permission 0.
+record_fields sample_user(long user_number, const char* name, long account,
+                          const char* account_name) {
+  record_fields user = {{1365, number(user_number)}, {504, text(name)}, {1360, text("")},
+                        {1037, text(name)},          {1361, text("")},  {1362, number(account)},
+                        {1367, text(account_name)},  {10, text("")},    {1363, number(0)}};
+  for (unsigned long permission = 3060; permission <= 3068; ++permission)
+    user[permission] = number(0);
+  return user;
+}
+
+}  // namespace
+
+record_book default_records() {
+  // SAMPLE DATA. The guest (user number 102) and the five users of the user list, by the same
+  // numbers and names; the guest is on account 1, the others on none (0). Account 1 "Guest",
+  // code "0001", without restrictions (1369, 1372, 1374, 1375, 1385 = 0, no limits). No boxes.
+  record_book records;
+  records.users[102] = sample_user(102, "Guest", 1, "Guest");
+  const char* const names[] = {"Admin", "Anna", "Ben", "Carla", "Anton"};
+  for (long n = 1; n <= 5; ++n)
+    records.users[n] = sample_user(n, names[n - 1], 0, "");
+  records.accounts[1] = {{1362, number(1)},     {1367, text("Guest")}, {1366, text("0001")},
+                         {1368, text("Guest")}, {1369, number(0)},     {1372, number(0)},
+                         {1374, number(0)},     {1375, number(0)},     {1385, number(0)}};
+  return records;
 }
 
 }  // namespace orvanta::machine::detail

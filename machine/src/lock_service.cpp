@@ -12,7 +12,6 @@ namespace {
 constexpr unsigned long kNodeKind = 1180;
 constexpr unsigned long kNodeFirst = 1301;
 constexpr unsigned long kNodeSecond = 197;
-constexpr unsigned long kResultNode = 1484;
 
 struct lock_table {
   std::mutex lock;
@@ -37,61 +36,43 @@ bool held_elsewhere(const lock_table& t, const lock_record& r) {
                      [&](const lock_record& e) { return collide(e, r); });
 }
 
-// Reads `node` below the command; false when the request lacks it.
-bool request_word(const service_call& call, unsigned long node, long& out) {
-  detail::path p = call.command.nodes();
-  p.push_back(node);
-  dvc_pnl_cmm_key key;
-  return detail::make_key(p, key) == 0 && call.request.dvc_pnl_cmm_get_int(key, out) == 0;
-}
-
-int answer(service_call& call, long result) {
-  detail::path p = call.command.nodes();
-  p.push_back(kResultNode);
-  dvc_pnl_cmm_key key;
-  int ret = detail::make_key(p, key);
-  if (ret == 0)
-    ret = call.response.dvc_pnl_cmm_set_int(key, result);
-  return ret;
-}
-
 // A missing argument counts as 0, as the panel sends 0 for arguments it does not use.
 bool read_record(const service_call& call, lock_record& r) {
   r = {0, 0, 0};
-  if (!request_word(call, kNodeKind, r.kind))
+  if (!detail::request_int(call, kNodeKind, r.kind))
     return false;
-  request_word(call, kNodeFirst, r.first);
-  request_word(call, kNodeSecond, r.second);
+  detail::request_int(call, kNodeFirst, r.first);
+  detail::request_int(call, kNodeSecond, r.second);
   return true;
 }
 
 int serve_lock(simulated_machine&, service_call& call) {
   lock_record r{};
   if (!read_record(call, r))
-    return answer(call, kLockBadRequest);
+    return detail::answer_result(call, kLockBadRequest);
   lock_table& t = table();
   std::lock_guard<std::mutex> guard(t.lock);
   if (held_elsewhere(t, r))
-    return answer(call, kLockRefused);
+    return detail::answer_result(call, kLockRefused);
   // The panel may take again what it holds: one record, one entry.
   if (std::find(t.panel.begin(), t.panel.end(), r) == t.panel.end())
     t.panel.push_back(r);
-  return answer(call, 0);
+  return detail::answer_result(call, 0);
 }
 
 int serve_unlock(simulated_machine&, service_call& call) {
   lock_record r{};
   if (!read_record(call, r))
-    return answer(call, kLockBadRequest);
+    return detail::answer_result(call, kLockBadRequest);
   lock_table& t = table();
   std::lock_guard<std::mutex> guard(t.lock);
   auto it = std::find(t.panel.begin(), t.panel.end(), r);
   if (it != t.panel.end()) {
     t.panel.erase(it);
-    return answer(call, 0);
+    return detail::answer_result(call, 0);
   }
   // What another panel holds is not the panel's to give back; what nobody holds is free already.
-  return answer(call, held_elsewhere(t, r) ? kLockRefused : 0);
+  return detail::answer_result(call, held_elsewhere(t, r) ? kLockRefused : 0);
 }
 
 }  // namespace

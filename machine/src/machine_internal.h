@@ -1,5 +1,5 @@
-// Pieces of the simulated machine shared by its source files: paths, the list service, fixed
-// answers and the model file parser.
+// Pieces of the simulated machine shared by its source files: paths, request and answer words of
+// services, the list service, fixed answers, the model file parser and the sample records.
 #pragma once
 
 #include <map>
@@ -22,6 +22,14 @@ std::optional<path> parse_path(std::string_view dotted);
 std::string to_dotted(const path& p);
 // Builds `out` from `p`; answers the first failing append's code.
 int make_key(const path& p, dvc_pnl_cmm_key& out);
+
+// The integer `node` right below the command in the request; false when the request lacks it.
+bool request_int(const service_call& call, unsigned long node, long& out);
+// Puts `value` at `node` right below the command into the response; answers the value layer's
+// code.
+int answer_value(service_call& call, unsigned long node, const dvc_pnl_cmm_value& value);
+// Puts RESULT (1484) right below the command into the response.
+int answer_result(service_call& call, long result);
 
 // A list served by the paged list service.
 struct list_data {
@@ -61,5 +69,17 @@ void apply_locks(const std::vector<lock_record>& records, bool replace);
 
 // The simulator's sample machine, as a model file.
 const char* default_model_json();
+
+// A record the record services hold: field node -> value.
+using record_fields = std::map<unsigned long, dvc_pnl_cmm_value>;
+struct record_book {
+  std::map<long, record_fields> users;     // by user number (1365)
+  std::map<long, record_fields> accounts;  // by account id (1362)
+  std::map<long, record_fields> boxes;     // by box id (197)
+};
+// The simulator's sample records, in the default model's file.
+record_book default_records();
+// The record services: registers their commands on `machine`, holding the sample records.
+void install_record_services(simulated_machine& machine);
 
 }  // namespace orvanta::machine::detail

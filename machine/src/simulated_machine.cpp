@@ -504,6 +504,7 @@ void simulated_machine::reset() {
   if (!error.empty())
     throw std::logic_error("default model: " + error);
   detail::install_lock_service(*this);
+  detail::install_record_services(*this);
 }
 
 std::string simulated_machine::load_model_json(const std::string& text, bool replace) {

@@ -8,6 +8,7 @@
 #include "orvanta/host/panel_host.h"
 #include "orvanta/machine/lock_service.h"
 #include "orvanta/machine/simulated_machine.h"
+#include "support/machine_test.h"
 #include "support/valueset_builder.h"
 
 namespace orvanta::test {
@@ -16,18 +17,8 @@ namespace {
 using machine::lock_record;
 using machine::simulated_machine;
 
-class LockService : public ::testing::Test {
+class LockService : public MachineTest {
  protected:
-  void SetUp() override {
-    host::reset();
-    machine().reset();
-  }
-  void TearDown() override {
-    machine().reset();
-    host::reset();
-  }
-  static simulated_machine& machine() { return simulated_machine::instance(); }
-
   // RESULT of a lock (true) or unlock request for `r`.
   static long ask(bool lock, const lock_record& r, long third = 4) {
     const std::string c = lock ? "0.503.2528" : "0.503.2529";

@@ -8,6 +8,7 @@
 #include "orvanta/host/panel_host.h"
 #include "orvanta/machine/simulated_machine.h"
 #include "orvanta/platform/dvu_pnl_evd_event_dispatcher.h"
+#include "support/machine_test.h"
 #include "support/valueset_builder.h"
 
 namespace orvanta::machine {
@@ -70,18 +71,8 @@ long response_int(const dvc_pnl_cmm_valueset& response, const std::string& key) 
   return v;
 }
 
-class SimulatedMachine : public ::testing::Test {
+class SimulatedMachine : public test::MachineTest {
  protected:
-  void SetUp() override {
-    host::reset();
-    machine().reset();
-  }
-  void TearDown() override {
-    machine().reset();
-    host::reset();
-  }
-
-  static simulated_machine& machine() { return simulated_machine::instance(); }
   // The machine as the panel reaches it.
   static dvc_pnl_cmm_command_mediator& mediator() {
     return dvc_pnl_cmm_command_mediator::dvc_pnl_cmm_instance();

@@ -10,6 +10,7 @@
 
 #include "orvanta/host/panel_host.h"
 #include "orvanta/machine/simulated_machine.h"
+#include "support/machine_test.h"
 #include "support/trace_expect.h"
 #include "support/valueset_builder.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util.h"
@@ -23,19 +24,8 @@ using machine::service_call;
 using machine::simulated_machine;
 using machine::verb;
 
-class Conditions : public ::testing::Test {
+class Conditions : public MachineTest {
  protected:
-  void SetUp() override {
-    host::reset();
-    machine().reset();
-  }
-  void TearDown() override {
-    machine().reset();
-    host::reset();
-  }
-
-  static simulated_machine& machine() { return simulated_machine::instance(); }
-
   // "get 0.230.343.347", "invoke 0.874.844", ... in call order.
   static Calls calls() {
     Calls out;
