@@ -3,9 +3,9 @@
 
 namespace orvanta {
 
-// Brings the proxy, the contents statics, the hard key lock counts and the exclusive lock manager
-// back to their state at start-up. Call it after the pages are gone (host reset), never while a
-// dispatch runs.
+// Brings the proxy, the contents statics, the hard key lock counts, the exclusive lock manager and
+// the view helper back to their state at start-up. Call it after the pages are gone (host reset),
+// never while a dispatch runs.
 void dvc_pnl_ceh_reset_library_statics();
 
 }  // namespace orvanta

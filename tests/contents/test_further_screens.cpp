@@ -10,6 +10,7 @@
 #include "contents/dvc_pnl_ceh_logger.h"
 #include "contents_probe.h"
 #include "orvanta/host/panel_host.h"
+#include "orvanta/host/trace_sink.h"
 #include "screens/further/dvc_pnl_ceh_contents_hdl_d_04_01_01.h"
 #include "screens/further/dvc_pnl_ceh_contents_hdl_d_04_01_02.h"
 #include "screens/further/dvc_pnl_ceh_contents_hdl_d_04_03_02.h"
@@ -21,6 +22,7 @@
 #include "screens/further/dvc_pnl_ceh_contents_hdl_d_04_03_16.h"
 #include "screens/further/dvc_pnl_ceh_contents_hdl_d_05_01.h"
 #include "screens/further/dvc_pnl_ceh_contents_hdl_further_screen.h"
+#include "services/dvc_pnl_ceh_contents_hdl_gui.h"
 
 namespace orvanta {
 namespace {
@@ -98,18 +100,35 @@ TEST_P(FurtherScreens, LoadShowsTheTitleAndDraws) {
   open(id_);
   ASSERT_NE(screen(), nullptr);
   EXPECT_GE(host::gui_of(id_, kFunc)->draws, 1);
-  // The title part comes with a layout; given one, the load fills it.
-  host::add_part(id_, kFunc, further_screen::kPartTitle,
-                 std::make_unique<dvu_pnl_gcp_parts>(dvu_pnl_gcp_part_kind::text));
-  screen()->dvc_pnl_ceh_on_load();
-  dvu_pnl_gcp_parts* title = dvu_pnl_gcp_get_gui_parts_by_id(
-      screen()->dvc_pnl_ceh_get_gui_components(), further_screen::kPartTitle);
+  // The family's layout has a title text; the load puts the name there as a literal.
+  auto* title = dynamic_cast<dvu_pnl_gcp_text*>(
+      dvu_pnl_gcp_get_gui_parts_by_id(screen()->dvc_pnl_ceh_get_gui_components(), GUI_ID_TITLE));
+  ASSERT_NE(title, nullptr);
   std::string text;
-  ASSERT_EQ(title->dvu_pnl_gcp_get_str_val(0, text), 0);
+  ASSERT_EQ(title->dvu_pnl_gcp_get_str_val(DVU_PNL_GCP_ATTR_LITERAL, text), 0);
   EXPECT_EQ(text, dvc_pnl_ceh_logger::get_cid(id_));
+  EXPECT_TRUE(title->wraps());
   int resource = 0;
   ASSERT_EQ(title->dvu_pnl_gcp_get_int_val(DVU_PNL_GCP_ATTR_TEXT_RESOURCE, resource), 0);
   EXPECT_EQ(resource, -1);
+}
+
+TEST_P(FurtherScreens, ATitlePartOfAnotherKindIsLeftAloneAndTheScreenStillDraws) {
+  open(kA);
+  open(id_);
+  ASSERT_NE(screen(), nullptr);
+  host::add_part(id_, kFunc, GUI_ID_TITLE, std::make_unique<dvu_pnl_gcp_icon>());
+  host::trace_sink::instance().clear();
+  const int draws = host::gui_of(id_, kFunc)->draws;
+  screen()->dvc_pnl_ceh_on_load();
+  EXPECT_GT(host::gui_of(id_, kFunc)->draws, draws);
+  EXPECT_TRUE(host::trace_sink::instance().has_message("p_text is NULL"));
+  EXPECT_TRUE(host::trace_sink::instance().has_message("update_view_text ret_code = 6"));
+  std::string text;
+  EXPECT_NE(
+      dvu_pnl_gcp_get_gui_parts_by_id(screen()->dvc_pnl_ceh_get_gui_components(), GUI_ID_TITLE)
+          ->dvu_pnl_gcp_get_str_val(DVU_PNL_GCP_ATTR_LITERAL, text),
+      0);
 }
 
 TEST_P(FurtherScreens, BackReturnsToTheParent) {

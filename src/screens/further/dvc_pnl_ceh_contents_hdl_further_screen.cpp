@@ -2,7 +2,8 @@
 #include "screens/further/dvc_pnl_ceh_contents_hdl_further_screen.h"
 
 #include "contents/dvc_pnl_ceh_logger.h"
-#include "orvanta/platform/dvu_pnl_gcp_components.h"
+#include "services/dvc_pnl_ceh_contents_hdl_gui.h"
+#include "util/dvc_pnl_ceh_trace.h"
 
 namespace orvanta::further_screen {
 namespace {
@@ -19,13 +20,14 @@ std::string placeholder_title(int contents_id) {
 }  // namespace
 
 void load(dvc_pnl_ceh_contents_hdl_base& screen) {
-  dvu_pnl_gcp_parts* title =
-      dvu_pnl_gcp_get_gui_parts_by_id(screen.dvc_pnl_ceh_get_gui_components(), kPartTitle);
-  if (title != nullptr) {
-    // A text resource of -1 lets the literal text show.
-    title->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_TEXT_RESOURCE, -1);
-    title->dvu_pnl_gcp_set_str_val(0, placeholder_title(screen.get_contents_id()));
-  }
+  const dvc_pnl_ceh_contents_hdl_gui* gui =
+      dvc_pnl_ceh_contents_hdl_gui::dvc_pnl_ceh_register_gui_operator(
+          screen.dvc_pnl_ceh_get_gui_components());
+  // A title that cannot be shown is no reason to leave the screen undrawn.
+  if (int ret = gui->dvc_pnl_ceh_update_view_text(GUI_ID_TITLE,
+                                                  placeholder_title(screen.get_contents_id()), 0);
+      ret != 0)
+    CEH_ERR("update_view_text ret_code = %d", ret);
   screen.draw();
 }
 

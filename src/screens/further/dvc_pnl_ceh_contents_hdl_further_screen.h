@@ -5,10 +5,8 @@
 
 namespace orvanta::further_screen {
 
-// The GUI part that holds a screen's title.
-inline constexpr int kPartTitle = 123;
-
-// Shows the screen's title on its title part (when its layout has one) and draws.
+// Shows the screen's title through the view helper and draws; a layout without a title part
+// draws without it.
 void load(dvc_pnl_ceh_contents_hdl_base& screen);
 // Back (61) returns to the parent page, Stop (42) to the top of the function; both answer 1.
 // Other keys are not taken (0).
