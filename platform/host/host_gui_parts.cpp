@@ -276,7 +276,7 @@ bool dvu_pnl_gcp_input_time::with_seconds() const {
 
 dvu_pnl_gcp_input_timer::dvu_pnl_gcp_input_timer()
     : dvu_pnl_gcp_input_fields(dvu_pnl_gcp_part_kind::timer, DVU_PNL_GCP_ATTR_TIMER_FIRST, 3,
-                               {99, 59, 59}) {}
+                               {99, 23, 59}) {}  // days, hours, minutes
 
 dvu_pnl_gcp_input_ip::dvu_pnl_gcp_input_ip(bool ipv6)
     : dvu_pnl_gcp_input_fields(ipv6 ? dvu_pnl_gcp_part_kind::ipv6 : dvu_pnl_gcp_part_kind::ipv4,

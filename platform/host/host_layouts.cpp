@@ -76,17 +76,25 @@ constexpr layout_part kEntryNumber[] = {
     FLEXIBLE_KEYS,
 };
 
+// Time of day: a title and the time.
 constexpr layout_part kEntryTime[] = {
     {123, K::text, 0, 0, kWide, kLine},
-    {53, K::date, 0, kBody, kWide, kLine},
-    {78, K::time, 0, kBody + kLine, kWide, kLine},
+    {53, K::time, 0, kBody + kLine, kWide, kLine},
     FLEXIBLE_KEYS,
 };
 
+// A timer of days, hours and minutes.
+constexpr layout_part kEntryTimer[] = {
+    {123, K::text, 0, 0, kWide, kLine},
+    {159, K::timer, 0, kBody + kLine, kWide, kLine},
+    FLEXIBLE_KEYS,
+};
+
+// An address of four number fields.
 constexpr layout_part kEntryAddress[] = {
     {123, K::text, 0, 0, kWide, kLine},
     {44, K::text, 0, kBody, kWide, kLine},
-    {78, K::ipv4, 0, kBody + kLine, kWide, kLine},
+    {49, K::ipv4, 0, kBody + kLine, kWide, kLine},
     FLEXIBLE_KEYS,
 };
 
@@ -122,6 +130,7 @@ constexpr layout kLayouts[] = {
     {"entry_text", kEntryText},
     {"entry_number", kEntryNumber},
     {"entry_time", kEntryTime},
+    {"entry_timer", kEntryTimer},
     {"entry_address", kEntryAddress},
     {"home", kHome},
     {"maintenance", kMaintenance},
@@ -147,7 +156,7 @@ constexpr family_layout kFamilyLayouts[] = {
     {"d_03_12", "message"}, {"d_03_13", "message"}, {"d_03_14", "message"},
     {"d_03_15", "message"}, {"d_03_16", "message"}, {"d_03_17", "message"},
     {"d_04_07", "message"}, {"d_04_09", "message"},
-    {"d_06_03", "entry_number"}, {"d_06_06", "entry_number"}, {"d_06_07", "entry_number"},
+    {"d_06_03", "entry_number"}, {"d_06_06", "entry_number"}, {"d_06_07", "entry_timer"},
     {"d_06_04", "entry_time"}, {"d_08_01", "entry_address"},
     {"d_08_02_01", "entry_text"}, {"d_08_02_03", "entry_text"}, {"d_08_02_04", "entry_text"},
     {"d_08_05", "entry_text"}, {"d_08_10", "entry_text"}, {"d_08_12", "entry_text"},

@@ -589,6 +589,9 @@ bool shows(const unsigned char* frame, int x, int y, const std::string& text) {
 
 TEST_F(ViewHelper, APageFilledThroughTheHelperDrawsItsTextsInPlace) {
   const std::size_t frames = host::devices().frames.size();
+  // The probe's id label stands where the title is.
+  dvu_pnl_gcp_get_gui_parts_by_id(page(kA)->dvc_pnl_ceh_get_gui_components(), kIdLabelPart)
+      ->dvu_pnl_gcp_set_visible(false);
   ASSERT_EQ(gui()->dvc_pnl_ceh_update_view_text(GUI_ID_TITLE, "VIEW", 0), 0);
   fill(3);
   ASSERT_EQ(gui()->dvc_pnl_ceh_set_star_to_select_row(2), 0);
