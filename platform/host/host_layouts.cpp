@@ -252,13 +252,13 @@ void build_layout(dvu_pnl_gcp_components& gui) {
   const layout* l = layout_of_family(family_of(gui.contents_id()));
   if (l == nullptr)
     return;
-  for (const layout_part& spec : l->parts) {
-    auto part = make_part(spec.kind);
-    part->dvu_pnl_gcp_set_position(spec.x, spec.y);
-    part->dvu_pnl_gcp_set_size(spec.width, spec.height);
-    gui.add(spec.id, std::move(part));
-    if (gui.focus() < 0 && takes_keys(spec.kind))
-      gui.set_focus(spec.id);
+  for (const layout_part& entry : l->parts) {
+    auto part = make_part(entry.kind);
+    part->dvu_pnl_gcp_set_position(entry.x, entry.y);
+    part->dvu_pnl_gcp_set_size(entry.width, entry.height);
+    gui.add(entry.id, std::move(part));
+    if (gui.focus() < 0 && takes_keys(entry.kind))
+      gui.set_focus(entry.id);
   }
 }
 
