@@ -1,6 +1,7 @@
 // Host GUI parts: attributes, list rows and lists, entry fields and their key actions.
-#include <algorithm>
-#include <cstdio>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "orvanta/platform/dvu_pnl_gcp_components.h"
 
