@@ -4,6 +4,7 @@
 #include <climits>
 #include <memory>
 #include <set>
+#include <string>
 #include <typeinfo>
 #include <utility>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "orvanta/host/host_data_manager.h"
 #include "orvanta/host/panel_host.h"
 #include "orvanta/host/trace_sink.h"
+#include "orvanta/platform/dvc_pnl_cly_contents_layout.h"
 #include "orvanta/platform/dvc_pnl_psm_page_stack_matrix.h"
 #include "screens/dvc_pnl_ceh_screens.h"
 #include "support/trace_expect.h"
@@ -398,6 +400,11 @@ TEST_F(ContentsFactory, EveryFamilyIdMakesItsClassWithTheId) {
         auto* handler = dynamic_cast<dvc_pnl_ceh_contents_hdl_base*>(contents.get());
         ASSERT_NE(handler, nullptr) << id;
         EXPECT_EQ(handler->get_contents_id(), id);
+        // The host's layouts know every id by the family the factory routes it to.
+        std::string layout;
+        unsigned long attributes = 0;
+        EXPECT_EQ(dvc_pnl_cly_get_layout_name(id, layout, attributes), 0) << id;
+        EXPECT_EQ(layout, f.family) << id;
         ++made;
       }
     }
