@@ -334,6 +334,9 @@ void draw_part(unsigned char* img, dvu_pnl_gcp_parts& part) {
       if (!animation.running())
         break;
       // A bar of eight blocks under the text; one block lights up in turn.
+      // The icon stands at the start of the text line, the text centred on it.
+      if (animation.icon_rid() >= 0)
+        draw_icon(img, {r.x, r.y, 2 * kCell, kRow}, animation.icon_rid());
       if (animation.text_rid() >= 0)
         draw_centered(img, {r.x, r.y, r.width, kRow},
                       dvu_pnl_gcp_resource::get_text_resource(animation.text_rid()));

@@ -494,6 +494,20 @@ TEST_F(GuiStandIn, ARunningAnimationMovesOnWithEveryDraw) {
   EXPECT_NE(first, second);
   animation->dvu_pnl_gcp_processing_stop();
   EXPECT_EQ(draw(gui), frame{});
+
+  // A registered icon and text stand on the first line: the icon at its start, the text centred.
+  set_text_resource(9004, "Wait");
+  animation->dvu_pnl_gcp_processing_resister(9004, 7);
+  animation->dvu_pnl_gcp_processing_start();
+  frame line = draw(gui);
+  for (int y = kGlyphHeight; y < 2 * kGlyphHeight; ++y) {
+    for (int x = 0; x < kFrameWidth; ++x)
+      line[static_cast<std::size_t>(y * kFrameStride + x / 8)] &=
+          static_cast<unsigned char>(~(0x80 >> (x % 8)));  // the bar's line is not compared
+  }
+  frame want = text_at(3, 0, "7");
+  draw_text(want.data(), (kFrameWidth - 4 * kGlyphWidth) / 2, 0, "Wait");
+  EXPECT_EQ(line, want);
 }
 
 // ---- resources ----

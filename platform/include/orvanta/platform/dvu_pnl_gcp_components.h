@@ -238,7 +238,6 @@ class dvu_pnl_gcp_input_edit_box : public dvu_pnl_gcp_parts {
   int dvu_pnl_gcp_get_space_added_string(std::string& text) const;
   const std::string& content() const { return content_; }
   int cursor() const { return cursor_; }
-  int max_length() const { return max_length_; }
   // Key actions: 0 done, 1 refused.
   int type_char(char c);
   int erase();
@@ -254,7 +253,6 @@ class dvu_pnl_gcp_input_edit_box : public dvu_pnl_gcp_parts {
 class dvu_pnl_gcp_input_number : public dvu_pnl_gcp_parts {
  public:
   explicit dvu_pnl_gcp_input_number(int max_digits = 3);
-  int max_digits() const { return max_digits_; }
   // Key actions: 0 done, 1 refused.
   int type_digit(int digit);
   int clear();
@@ -306,7 +304,6 @@ class dvu_pnl_gcp_input_timer : public dvu_pnl_gcp_input_fields {
 class dvu_pnl_gcp_input_ip : public dvu_pnl_gcp_input_fields {
  public:
   explicit dvu_pnl_gcp_input_ip(bool ipv6 = false);
-  bool ipv6() const { return kind() == dvu_pnl_gcp_part_kind::ipv6; }
 };
 
 // A list of words, each with a mark; the cursor row is the selected word.
