@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -95,7 +96,7 @@ struct ACCESS_POINT_INFO {
   std::int32_t value_3516;
   std::int32_t value_3517;
   std::int32_t value_3518;
-  char ssid[DVC_PNL_CEH_SSID_SIZE];                      // 3495
+  char ssid[DVC_PNL_CEH_SSID_SIZE];                     // 3495
   unsigned char address[DVC_PNL_CEH_MAC_ADDRESS_SIZE];  // 3519
 };
 static_assert(sizeof(ACCESS_POINT_INFO) == 76);
@@ -106,8 +107,8 @@ struct WIFI_ACCESS_POINT_INFO {
   std::int32_t value_3514;
   std::int32_t value_3496;
   std::int32_t value_3515;
-  std::int32_t value_3957;  // 1: the certificate setting goes with the request
-  char ssid[DVC_PNL_CEH_SSID_SIZE];                      // 3495, its length to 3518
+  std::int32_t value_3957;           // 1: the certificate setting goes with the request
+  char ssid[DVC_PNL_CEH_SSID_SIZE];  // 3495, its length to 3518
   unsigned char address[DVC_PNL_CEH_MAC_ADDRESS_SIZE];  // 3519
 };
 static_assert(sizeof(WIFI_ACCESS_POINT_INFO) == 60);
@@ -362,6 +363,12 @@ class dvc_pnl_ceh_contents_hdl_func {
   static void reset_for_tests();
 
  private:
+  // Reads the print setting at `path` below the scope out of the cached print set, one nested
+  // set per path element; `value` is left alone when the cache lacks it. Always 0.
+  int read_print_cache(int is_default, std::initializer_list<unsigned long> path, int& value) const;
+  // Reads the group `group` below the scope into `cache`.
+  int fill_cache(int is_default, unsigned long group, dvc_pnl_cmm_valueset& cache);
+
   static dvc_pnl_ceh_contents_hdl_func* s_instance_;
 
   int function_id_ = 0;
