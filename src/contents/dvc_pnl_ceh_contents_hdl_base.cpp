@@ -95,24 +95,7 @@ int dvc_pnl_ceh_contents_hdl_base::get_view_function_id() const {
 
 int dvc_pnl_ceh_contents_hdl_base::get_function_id() const {
   // The number under which job settings of the function are addressed.
-  switch (func_id_) {
-    case 3:
-      return 3;
-    case 4:
-      return 4;
-    case 5:
-      return 1;
-    case 6:
-      return 5;
-    case 7:
-      return 6;
-    case 8:
-      return 1;
-    case 9:
-      return 9;
-    default:
-      return 1;
-  }
+  return dvc_pnl_ceh_contents_hdl_common_function_of(func_id_);
 }
 
 // ---------------------------------------------------------------- opening
