@@ -1,2 +1,179 @@
 // Function settings: the error key, paper queries, application rows and the shared commands.
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <vector>
+
 #include "services/dvc_pnl_ceh_contents_hdl_func.h"
+#include "util/dvc_pnl_ceh_contents_hdl_util_cmm.h"
+#include "util/dvc_pnl_ceh_contents_hdl_util_dm.h"
+#include "util/dvc_pnl_ceh_contents_hdl_util_values.h"
+#include "util/dvc_pnl_ceh_trace.h"
+
+namespace orvanta {
+
+namespace {
+
+using path = std::vector<unsigned long>;
+
+// ---- error events ----
+
+constexpr unsigned long kNoNode = DVC_PNL_CEH_ERROR_NODE_NONE;
+
+// The node of each function's error event in DVC_PNL_PDM_ERROR_OCCURRENCE, for the function ids
+// 1 to 18 in order; kNoNode where the function has no error event of its own.
+constexpr unsigned long kErrorNodes[] = {
+    1080, kNoNode, 1093,    1094,    1095,    1097, 1098, 1096,    1099,
+    1101, kNoNode, kNoNode, kNoNode, kNoNode, 1100, 1103, kNoNode, 1102,
+};
+constexpr int kFirstErrorFunction = 1;
+constexpr int kLastErrorFunction = 18;
+
+unsigned long error_node_of(int function) {
+  if (function < kFirstErrorFunction || function > kLastErrorFunction)
+    return kNoNode;
+  return kErrorNodes[function - kFirstErrorFunction];
+}
+
+// ---- paper ----
+
+const path kCassetteMask = {0, 728, 713, 129};
+
+struct cassette {
+  long bit;
+  unsigned long node;
+  WSC_VAL_FEEDER feeder;
+};
+constexpr cassette kCassettes[] = {{2, 372, 1}, {4, 375, 2}, {8, 376, 3}, {16, 377, 4}};
+
+struct weight_node {
+  ENV_MEDIA_TYPE_VAL type;
+  unsigned long node;
+};
+constexpr weight_node kWeightNodes[] = {
+    {1, 383},  {2, 385},  {3, 386},  {4, 387},  {5, 388},   {6, 389},
+    {7, 390},  {8, 391},  {9, 392},  {10, 393}, {11, 394},  {12, 395},
+    {13, 396}, {16, 397}, {14, 400}, {17, 399}, {18, 3748},
+};
+constexpr ENV_MEDIA_TYPE_VAL kFirstCustomType = 21;
+constexpr ENV_MEDIA_TYPE_VAL kLastCustomType = 28;
+constexpr unsigned long kWeightLeaf = 384;
+
+// ---- application rows ----
+
+template <std::size_t N>
+void copy_text(dvc_pnl_cmm_valueset& set, const dvc_pnl_cmm_key& key, unsigned long node,
+               char (&field)[N]) {
+  const char* text = nullptr;
+  dvc_pnl_ceh_contents_hdl_get_string_from_response_node(set, key, node, text);
+  const std::size_t length = text != nullptr ? strnlen(text, N - 1) : 0;
+  if (length > 0)
+    std::memcpy(field, text, length);
+  field[length] = '\0';
+}
+
+void copy_int(dvc_pnl_cmm_valueset& set, const dvc_pnl_cmm_key& key, unsigned long node,
+              std::int32_t& field) {
+  long value = 0;
+  dvc_pnl_ceh_contents_hdl_get_int_from_response_node(set, key, node, value);
+  field = static_cast<std::int32_t>(value);
+}
+
+// The integer fields of an application row.
+struct apl_int {
+  unsigned long node;
+  std::int32_t APPLICATION_MANAGE_INFO::*member;
+};
+constexpr apl_int kAplInts[] = {
+    {2486, &APPLICATION_MANAGE_INFO::value_2486}, {2488, &APPLICATION_MANAGE_INFO::value_2488},
+    {2489, &APPLICATION_MANAGE_INFO::value_2489}, {2490, &APPLICATION_MANAGE_INFO::value_2490},
+    {2491, &APPLICATION_MANAGE_INFO::value_2491}, {2591, &APPLICATION_MANAGE_INFO::value_2591},
+    {2145, &APPLICATION_MANAGE_INFO::value_2145}, {2633, &APPLICATION_MANAGE_INFO::value_2633},
+    {2592, &APPLICATION_MANAGE_INFO::value_2592},
+};
+
+}  // namespace
+
+// ---------------------------------------------------------------- error key
+
+unsigned long dvc_pnl_ceh_contents_hdl_func::get_error_event_node_key_by_current_function() const {
+  return error_node_of(function_id_);
+}
+
+// ---------------------------------------------------------------- paper
+
+int dvc_pnl_ceh_contents_hdl_func::get_paper_type_selecting(
+    ENV_MEDIA_TYPE_VAL type, std::vector<WSC_VAL_FEEDER>& feeders) const {
+  long mask = 0;
+  int ret = dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm(
+      kCassetteMask.data(), 0, static_cast<unsigned>(kCassetteMask.size()), mask);
+  if (ret != DVC_PNL_CEH_RET_OK)
+    CEH_ERR("can not get cassette status ret_code = %d", ret);
+  // Only the cassette reads count for the result: without an installed cassette nothing was
+  // looked at.
+  ret = -1;
+  for (const cassette& c : kCassettes) {
+    if ((mask & c.bit) == 0)
+      continue;
+    const unsigned long kind_node[] = {0, 230, 49, 371, c.node, 374};
+    long kind = 0;
+    ret = dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm(kind_node, 0, 6, kind);
+    if (ret != DVC_PNL_CEH_RET_OK) {
+      CEH_ERR("can not get cst paper type ret_code = %d", ret);
+      continue;
+    }
+    if (kind == type)
+      feeders.push_back(c.feeder);
+  }
+  return ret;
+}
+
+int dvc_pnl_ceh_contents_hdl_func::get_paper_weight(ENV_MEDIA_TYPE_VAL type,
+                                                    ENV_PAPER_WEIGHT_VAL& weight) const {
+  long value = 0;
+  int ret = DVC_PNL_CEH_RET_OK;
+  bool known = false;
+  for (const weight_node& row : kWeightNodes) {
+    if (row.type != type)
+      continue;
+    known = true;
+    const unsigned long weight_path[] = {0, 230, 49, 382, row.node, kWeightLeaf};
+    ret = dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm(weight_path, 0, 6, value);
+    break;
+  }
+  if (!known && type >= kFirstCustomType && type <= kLastCustomType) {
+    known = true;
+    // The custom types are the rows of one table, in order; each row holds its weight.
+    const unsigned long table[] = {0, 230, 49, 382, 401, 402};
+    const unsigned index = static_cast<unsigned>(type - kFirstCustomType);
+    dvc_pnl_cmm_valueset row;
+    ret = dvc_pnl_ceh_contents_hdl_get_valueset_from_pnl_cmm_by_index(table, 0, 6, index, row);
+    if (ret == DVC_PNL_CEH_RET_OK) {
+      const unsigned long weight_path[] = {0, 230, 49, 382, 401, 402, index, kWeightLeaf};
+      ret = dvc_pnl_ceh_contents_hdl_get_int_from_valueset(weight_path, 0, 8, row, value);
+    }
+  }
+  if (!known) {
+    CEH_ERR("paper type %d has no weight", type);
+  } else if (ret != DVC_PNL_CEH_RET_OK) {
+    CEH_ERR("can not get paper weight ret_code = %d", ret);
+  } else {
+    weight = static_cast<ENV_PAPER_WEIGHT_VAL>(value);
+  }
+  return -1;
+}
+
+// ---------------------------------------------------------------- application rows
+
+void dvc_pnl_ceh_contents_hdl_func::parse_apl_info(dvc_pnl_cmm_valueset& set, dvc_pnl_cmm_key& key,
+                                                   APPLICATION_MANAGE_INFO& info) const {
+  // A field the row lacks reads as 0 or empty, not as what the record held before.
+  info = APPLICATION_MANAGE_INFO{};
+  copy_text(set, key, 2516, info.name);
+  copy_text(set, key, 2492, info.text_2492);
+  copy_text(set, key, 2494, info.text_2494);
+  for (const apl_int& field : kAplInts)
+    copy_int(set, key, field.node, info.*field.member);
+}
+
+}  // namespace orvanta

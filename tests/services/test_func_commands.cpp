@@ -1,2 +1,297 @@
-// Function settings: the error key, paper queries, application rows and the shared commands.
+// Function settings: the error key of each function, paper queries, application rows, and the
+// shared commands with their requests, answers and failures.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "orvanta/host/host_data_manager.h"
 #include "services/dvc_pnl_ceh_contents_hdl_func.h"
+#include "support/machine_test.h"
+#include "support/trace_expect.h"
+#include "support/valueset_builder.h"
+#include "util/dvc_pnl_ceh_contents_hdl_util_dm.h"
+#include "util/dvc_pnl_ceh_contents_hdl_util_values.h"
+
+namespace orvanta::test {
+namespace {
+
+using machine::call_record;
+using machine::verb;
+using Func = dvc_pnl_ceh_contents_hdl_func;
+using Feeders = std::vector<WSC_VAL_FEEDER>;
+using Strings = std::vector<std::string>;
+
+constexpr unsigned long kNone = DVC_PNL_CEH_ERROR_NODE_NONE;
+
+class FuncCommands : public MachineTest {
+ protected:
+  void TearDown() override {
+    Func::reset_for_tests();
+    MachineTest::TearDown();
+  }
+
+  static Strings calls(verb kind) {
+    Strings out;
+    for (const call_record& c : machine().log()) {
+      if (c.kind == kind)
+        out.push_back(c.key);
+    }
+    return out;
+  }
+
+  // The requests sent with `command`, oldest first.
+  static std::vector<dvc_pnl_cmm_valueset> requests(const std::string& command) {
+    std::vector<dvc_pnl_cmm_valueset> out;
+    for (const call_record& c : machine().log()) {
+      if (c.kind == verb::invoke && c.key == command)
+        out.push_back(c.request);
+    }
+    return out;
+  }
+
+  // The one invoke made was `command` with exactly `expected`.
+  static ::testing::AssertionResult sent_once(const std::string& command,
+                                              const dvc_pnl_cmm_valueset& expected) {
+    const Strings invokes = calls(verb::invoke);
+    if (invokes != Strings{command}) {
+      std::string made;
+      for (const std::string& i : invokes)
+        made += " " + i;
+      return ::testing::AssertionFailure() << "invokes made:" << made;
+    }
+    return sets_equal(requests(command).front(), expected);
+  }
+
+  static void answer_ok(const std::string& command) {
+    machine().register_answer(command, {{"1484", leaf(0).value()}});
+  }
+
+  // An error event as the platform stores it: the fields below 0.<node>.
+  static void store_error_event(int function, const std::vector<entry>& fields) {
+    dvc_pnl_cmm_valueset event = make_valueset(fields, 2);
+    ASSERT_EQ(0, dvc_pnl_ceh_contents_hdl_set_valueset_to_dm(DVC_PNL_PDM_ERROR_OCCURRENCE, function,
+                                                             event));
+  }
+};
+
+// ---------------------------------------------------------------- error key
+
+TEST_F(FuncCommands, ErrorNodeOfEveryFunctionId) {
+  const unsigned long expected[] = {kNone, 1080, kNone, 1093,  1094,  1095,  1097,
+                                    1098,  1096, 1099,  1101,  kNone, kNone, kNone,
+                                    kNone, 1100, 1103,  kNone, 1102,  kNone};
+  for (int id = 0; id <= 19; ++id) {
+    const Func func(id);
+    EXPECT_EQ(expected[id], func.get_error_event_node_key_by_current_function()) << "id " << id;
+  }
+  EXPECT_EQ(kNone, Func(-1).get_error_event_node_key_by_current_function());
+  EXPECT_EQ(kNone, Func(24).get_error_event_node_key_by_current_function());
+}
+
+TEST_F(FuncCommands, ErrorNodeFollowsTheSharedInstance) {
+  Func* kept = Func::dvc_pnl_ceh_get_instance(1);
+  EXPECT_EQ(1080u, kept->get_error_event_node_key_by_current_function());
+  Func::dvc_pnl_ceh_get_instance(16);
+  EXPECT_EQ(1103u, kept->get_error_event_node_key_by_current_function());
+}
+
+// ---------------------------------------------------------------- paper type
+
+struct selecting_case {
+  const char* name;
+  long mask;
+  long kinds[4];  // paper type in cassettes 1 to 4
+  ENV_MEDIA_TYPE_VAL type;
+  Feeders before;
+  Feeders expected;
+  Strings reads;  // the cassette reads made
+};
+
+TEST_F(FuncCommands, PaperTypeSelectingReadsTheInstalledCassettes) {
+  const std::string k1 = "0.230.49.371.372.374", k2 = "0.230.49.371.375.374",
+                    k3 = "0.230.49.371.376.374", k4 = "0.230.49.371.377.374";
+  const selecting_case cases[] = {
+      {"no cassette", 0, {5, 5, 5, 5}, 5, {}, {}, {}},
+      {"only bit 1, which no cassette has", 1, {5, 5, 5, 5}, 5, {}, {}, {}},
+      {"cassette 1", 2, {5, 5, 5, 5}, 5, {}, {1}, {k1}},
+      {"cassettes 2 and 4", 4 | 16, {5, 5, 5, 5}, 5, {}, {2, 4}, {k2, k4}},
+      {"all, one holds the type", 30, {1, 2, 7, 3}, 7, {}, {3}, {k1, k2, k3, k4}},
+      {"all, two hold the type", 30, {1, 7, 1, 3}, 1, {}, {1, 3}, {k1, k2, k3, k4}},
+      {"all, none holds the type", 30, {1, 7, 1, 3}, 9, {}, {}, {k1, k2, k3, k4}},
+      {"appends to what is there", 8, {0, 0, 6, 0}, 6, {4}, {4, 3}, {k3}},
+  };
+  for (const selecting_case& c : cases) {
+    SCOPED_TRACE(c.name);
+    machine().reset();
+    machine().set_int("0.728.713.129", c.mask);
+    const std::string kind_nodes[] = {k1, k2, k3, k4};
+    for (int i = 0; i < 4; ++i)
+      machine().set_int(kind_nodes[i], c.kinds[i]);
+    machine().clear_log();
+
+    Feeders feeders = c.before;
+    const int ret = Func(1).get_paper_type_selecting(c.type, feeders);
+    EXPECT_EQ(c.expected, feeders);
+    EXPECT_EQ(c.reads.empty() ? -1 : 0, ret);
+    Strings expected_reads = {"0.728.713.129"};
+    expected_reads.insert(expected_reads.end(), c.reads.begin(), c.reads.end());
+    EXPECT_EQ(expected_reads, calls(verb::get));
+  }
+}
+
+TEST_F(FuncCommands, PaperTypeSelectingAnswersTheLastCassetteRead) {
+  machine().set_int("0.728.713.129", 2 | 4);
+  machine().set_int("0.230.49.371.372.374", 5);
+  machine().set_int("0.230.49.371.375.374", 5);
+
+  machine().fail_next(verb::get, "0.230.49.371.375.374");
+  Feeders feeders;
+  EXPECT_EQ(3, Func(1).get_paper_type_selecting(5, feeders));
+  EXPECT_EQ(Feeders{1}, feeders);
+  EXPECT_TRUE(traced("can not get cst paper type ret_code = 3")) << trace_dump();
+
+  // A failure before the last read does not count.
+  machine().fail_next(verb::get, "0.230.49.371.372.374");
+  feeders.clear();
+  EXPECT_EQ(0, Func(1).get_paper_type_selecting(5, feeders));
+  EXPECT_EQ(Feeders{2}, feeders);
+}
+
+TEST_F(FuncCommands, PaperTypeSelectingWithoutTheMaskReadsNoCassette) {
+  machine().set_int("0.728.713.129", 30);
+  machine().fail_next(verb::get, "0.728.713.129");
+  Feeders feeders;
+  EXPECT_EQ(-1, Func(1).get_paper_type_selecting(5, feeders));
+  EXPECT_TRUE(feeders.empty());
+  EXPECT_EQ(Strings{"0.728.713.129"}, calls(verb::get));
+  EXPECT_TRUE(traced("can not get cassette status ret_code = 3")) << trace_dump();
+}
+
+// ---------------------------------------------------------------- paper weight
+
+TEST_F(FuncCommands, PaperWeightOfTypesWithAFixedNode) {
+  const struct {
+    ENV_MEDIA_TYPE_VAL type;
+    const char* node;
+  } rows[] = {{1, "383"},  {2, "385"},  {3, "386"},  {4, "387"},  {5, "388"},  {6, "389"},
+              {7, "390"},  {8, "391"},  {9, "392"},  {10, "393"}, {11, "394"}, {12, "395"},
+              {13, "396"}, {16, "397"}, {14, "400"}, {17, "399"}, {18, "3748"}};
+  long stored = 40;
+  for (const auto& row : rows)
+    machine().set_int(std::string("0.230.49.382.") + row.node + ".384", ++stored);
+  stored = 40;
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.type);
+    machine().clear_log();
+    ENV_PAPER_WEIGHT_VAL weight = -7;
+    EXPECT_EQ(-1, Func(1).get_paper_weight(row.type, weight));
+    EXPECT_EQ(++stored, weight);
+    EXPECT_EQ(Strings{std::string("0.230.49.382.") + row.node + ".384"}, calls(verb::get));
+  }
+}
+
+TEST_F(FuncCommands, PaperWeightOfCustomTypesByIndex) {
+  for (int i = 0; i < 8; ++i) {
+    const std::string row = "0.230.49.382.401.402." + std::to_string(i);
+    machine().set_int(row + ".384", 70 + i);
+    machine().set_int(row + ".385", 99);  // a neighbour field of the row
+  }
+  for (int type = 21; type <= 28; ++type) {
+    SCOPED_TRACE(type);
+    machine().clear_log();
+    ENV_PAPER_WEIGHT_VAL weight = -7;
+    EXPECT_EQ(-1, Func(1).get_paper_weight(type, weight));
+    EXPECT_EQ(70 + (type - 21), weight);
+    EXPECT_EQ(Strings{"0.230.49.382.401.402"}, calls(verb::get));
+  }
+}
+
+TEST_F(FuncCommands, PaperWeightIsLeftAloneWhenNothingCanBeRead) {
+  for (ENV_MEDIA_TYPE_VAL type : {0, 15, 19, 20, 29}) {
+    ENV_PAPER_WEIGHT_VAL weight = -7;
+    EXPECT_EQ(-1, Func(1).get_paper_weight(type, weight));
+    EXPECT_EQ(-7, weight) << type;
+  }
+  EXPECT_TRUE(calls(verb::get).empty());
+  EXPECT_TRUE(traced("paper type 15 has no weight")) << trace_dump();
+
+  machine().set_int("0.230.49.382.383.384", 3);
+  machine().fail_next(verb::get, "0.230.49.382.383.384");
+  ENV_PAPER_WEIGHT_VAL weight = -7;
+  EXPECT_EQ(-1, Func(1).get_paper_weight(1, weight));
+  EXPECT_EQ(-7, weight);
+  EXPECT_TRUE(traced("can not get paper weight ret_code = 3")) << trace_dump();
+
+  // A custom row that the table lacks.
+  machine().set_int("0.230.49.382.401.402.0.384", 5);
+  EXPECT_EQ(-1, Func(1).get_paper_weight(22, weight));
+  EXPECT_EQ(-7, weight);
+}
+
+// ---------------------------------------------------------------- application rows
+
+TEST_F(FuncCommands, ParseAplInfoCopiesEveryField) {
+  const std::string row = "0.938.953.1501.3";
+  dvc_pnl_cmm_valueset set = make_valueset({
+      {row + ".2516", "Scan to cloud"},
+      {row + ".2486", 1},
+      {row + ".2488", 2},
+      {row + ".2489", 3},
+      {row + ".2490", 4},
+      {row + ".2491", 5},
+      {row + ".2492", "2.1.0"},
+      {row + ".2494", "Sends scans to a folder"},
+      {row + ".2591", 6},
+      {row + ".2145", 7},
+      {row + ".2633", 8},
+      {row + ".2592", 9},
+  });
+  dvc_pnl_cmm_key key = key_of(row);
+  APPLICATION_MANAGE_INFO info;
+  std::memset(&info, 0x5a, sizeof info);
+  Func(1).parse_apl_info(set, key, info);
+  EXPECT_STREQ("Scan to cloud", info.name);
+  EXPECT_STREQ("2.1.0", info.text_2492);
+  EXPECT_STREQ("Sends scans to a folder", info.text_2494);
+  EXPECT_EQ(1, info.value_2486);
+  EXPECT_EQ(2, info.value_2488);
+  EXPECT_EQ(3, info.value_2489);
+  EXPECT_EQ(4, info.value_2490);
+  EXPECT_EQ(5, info.value_2491);
+  EXPECT_EQ(6, info.value_2591);
+  EXPECT_EQ(7, info.value_2145);
+  EXPECT_EQ(8, info.value_2633);
+  EXPECT_EQ(9, info.value_2592);
+}
+
+TEST_F(FuncCommands, ParseAplInfoCutsLongTextsAndTerminatesThem) {
+  const std::string row = "0.938.953.1501.0";
+  const std::string name(40, 'n'), version(20, 'v'), text(300, 't');
+  dvc_pnl_cmm_valueset set =
+      make_valueset({{row + ".2516", name}, {row + ".2492", version}, {row + ".2494", text}});
+  dvc_pnl_cmm_key key = key_of(row);
+  APPLICATION_MANAGE_INFO info;
+  std::memset(&info, 0x5a, sizeof info);
+  Func(1).parse_apl_info(set, key, info);
+  EXPECT_EQ(name.substr(0, DVC_PNL_CEH_APL_NAME_SIZE - 1), info.name);
+  EXPECT_EQ(version.substr(0, DVC_PNL_CEH_APL_VERSION_SIZE - 1), info.text_2492);
+  EXPECT_EQ(text.substr(0, DVC_PNL_CEH_APL_TEXT_SIZE - 1), info.text_2494);
+  // Fields the row lacks are not left as they were.
+  EXPECT_EQ(0, info.value_2486);
+  EXPECT_EQ(0, info.value_2592);
+}
+
+TEST_F(FuncCommands, ParseAplInfoReadsOnlyBelowTheRowKey) {
+  dvc_pnl_cmm_valueset set =
+      make_valueset({{"0.938.953.1501.0.2516", "first"}, {"0.938.953.1501.1.2516", "second"}});
+  dvc_pnl_cmm_key key = key_of("0.938.953.1501.1");
+  APPLICATION_MANAGE_INFO info{};
+  Func(1).parse_apl_info(set, key, info);
+  EXPECT_STREQ("second", info.name);
+}
+
+}  // namespace
+}  // namespace orvanta::test
