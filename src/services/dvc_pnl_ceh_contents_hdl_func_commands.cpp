@@ -1,6 +1,7 @@
 // Function settings: the error key, paper queries, application rows and the shared commands.
 #include <cstdint>
 #include <cstring>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,89 @@ unsigned long error_node_of(int function) {
   if (function < kFirstErrorFunction || function > kLastErrorFunction)
     return kNoNode;
   return kErrorNodes[function - kFirstErrorFunction];
+}
+
+// Fields of an error event, read as 0.<error node>.<field>.
+constexpr unsigned long kJobId = 221;
+constexpr unsigned long kErrorId = 1081;
+constexpr unsigned long kErrorCode = 1000;
+
+// The error event that the platform stored for `function`; a failure is traced.
+int read_error_event(int function, dvc_pnl_cmm_valueset& event) {
+  const int ret =
+      dvc_pnl_ceh_contents_hdl_get_valueset_from_dm(DVC_PNL_PDM_ERROR_OCCURRENCE, event, function);
+  if (ret != DVC_PNL_CEH_RET_OK)
+    CEH_ERR("get from PanelDataManager of DVC_PNL_PDM_ERROR_OCCURRENCE ret_code = %d", ret);
+  return ret;
+}
+
+// A field of the event; a missing one is traced under `name`.
+int error_field(const dvc_pnl_cmm_valueset& event, unsigned long node, unsigned long field,
+                const char* name, long& value) {
+  const unsigned long field_path[] = {0, node, field};
+  const int ret = dvc_pnl_ceh_contents_hdl_get_int_from_valueset(field_path, 2, 3, event, value);
+  if (ret != DVC_PNL_CEH_RET_OK)
+    CEH_ERR("%s ret_code = %d", name, ret);
+  return ret;
+}
+
+// The copy function, whose job the maintenance cancel ends, and the maintenance function that
+// is told through the data manager that it has ended.
+constexpr int kCopyFunction = 1;
+constexpr int kMaintenanceFunction = 11;
+
+// ---- commands ----
+
+const path kErrorScreenClose = {0, 503, 2449};
+const path kErrorJobManipulation = {0, 821, 847};
+
+// The job manipulation that cancels the job in error.
+constexpr long kCancelJob = 4;
+
+dvc_pnl_cmm_key key_of(const path& nodes) {
+  dvc_pnl_cmm_key key;
+  dvc_pnl_ceh_contents_hdl_build_key(key, nodes.data(), static_cast<unsigned>(nodes.size()));
+  return key;
+}
+
+struct word {
+  unsigned long node;
+  long value;
+};
+
+void add_words(dvc_pnl_cmm_valueset& request, const dvc_pnl_cmm_key& key,
+               std::initializer_list<word> words) {
+  for (const word& w : words)
+    dvc_pnl_ceh_contents_hdl_set_int_to_request_node(request, key, w.node, w.value);
+}
+
+// Runs the command. Once it got through and `result` is given, RESULT goes there: -1 when the
+// response holds none, so that a missing answer never reads as success. The response is not
+// looked at when the mediator failed.
+int send(const dvc_pnl_cmm_key& key, const dvc_pnl_cmm_valueset& request, long* result) {
+  dvc_pnl_cmm_valueset response;
+  const int ret = dvc_pnl_ceh_contents_hdl_invoke_cmm(key, request, response);
+  if (ret != DVC_PNL_CEH_RET_OK) {
+    CEH_ERR("invoke failed : ret_code = %d", ret);
+    return ret;
+  }
+  if (result != nullptr) {
+    long answer = -1;
+    dvc_pnl_ceh_contents_hdl_get_int_from_response_node(response, key, DVC_PNL_CEH_NODE_RESULT,
+                                                        answer);
+    if (answer != 0)
+      CEH_ERR("command result NG. RESULT = %ld", answer);
+    *result = answer;
+  }
+  return ret;
+}
+
+// A command whose request is integers only.
+int send_words(const path& command, std::initializer_list<word> words, long* result) {
+  const dvc_pnl_cmm_key key = key_of(command);
+  dvc_pnl_cmm_valueset request;
+  add_words(request, key, words);
+  return send(key, request, result);
 }
 
 // ---- paper ----
@@ -174,6 +258,67 @@ void dvc_pnl_ceh_contents_hdl_func::parse_apl_info(dvc_pnl_cmm_valueset& set, dv
   copy_text(set, key, 2494, info.text_2494);
   for (const apl_int& field : kAplInts)
     copy_int(set, key, field.node, info.*field.member);
+}
+
+// ---------------------------------------------------------------- error screens
+
+int dvc_pnl_ceh_contents_hdl_func::op_error_screen_close_setting() const {
+  dvc_pnl_cmm_valueset event;
+  int ret = read_error_event(function_id_, event);
+  if (ret != DVC_PNL_CEH_RET_OK)
+    return ret;
+  const unsigned long node = get_error_event_node_key_by_current_function();
+  if (node == kNoNode) {
+    // No error of this function can be on the screen: there is nothing to close.
+    CEH_ERR("current function id = %d", function_id_);
+    CEH_ERR("it is beyond reasonable scope.");
+    return DVC_PNL_CEH_RET_BAD_ARGUMENT;
+  }
+  // Only the error id is needed to name the error: a missing job id goes out as 0.
+  long job_id = 0;
+  error_field(event, node, kJobId, "job_id", job_id);
+  long error_id = 0;
+  ret = error_field(event, node, kErrorId, "error_id", error_id);
+  if (ret != DVC_PNL_CEH_RET_OK)
+    return ret;
+
+  const dvc_pnl_cmm_key key = key_of(kErrorScreenClose);
+  dvc_pnl_cmm_valueset request;
+  add_words(request, key,
+            {{DVC_PNL_CEH_NODE_REQUEST_KIND, 1}, {kJobId, job_id}, {kErrorId, error_id}});
+  dvc_pnl_ceh_contents_hdl_set_string_to_request_node(request, key, 2466, "");
+  dvc_pnl_ceh_contents_hdl_set_int_to_request_node(request, key, 1002, 0);
+  // A refusal is traced and nothing more: the screen closes when the machine says so.
+  long result = 0;
+  return send(key, request, &result);
+}
+
+int dvc_pnl_ceh_contents_hdl_func::
+    dvc_pnl_ceh_contents_hdl_set_job_cancel_and_maintenance_finish() {
+  // Without the job and its error code there is nothing to cancel.
+  dvc_pnl_cmm_valueset event;
+  const unsigned long node = error_node_of(kCopyFunction);
+  long job_id = 0;
+  long error_code = 0;
+  if (read_error_event(kCopyFunction, event) != DVC_PNL_CEH_RET_OK ||
+      error_field(event, node, kJobId, "job_id", job_id) != DVC_PNL_CEH_RET_OK ||
+      error_field(event, node, kErrorCode, "error_code", error_code) != DVC_PNL_CEH_RET_OK)
+    return 0;
+
+  long result = -1;
+  const int ret = send_words(kErrorJobManipulation,
+                             {{DVC_PNL_CEH_NODE_REQUEST_KIND, 1},
+                              {kJobId, job_id},
+                              {1334, kCancelJob},
+                              {kErrorCode, error_code}},
+                             &result);
+  if (ret != DVC_PNL_CEH_RET_OK)
+    return 0;
+  if (result != 0)
+    return 1;
+  // Tells the maintenance function, through its hand-over entry, that its job has ended.
+  return dvc_pnl_ceh_contents_hdl_set_int_to_dm(DVC_PNL_PDM_DVC_CEH_INTEGER, 1,
+                                                kMaintenanceFunction);
 }
 
 }  // namespace orvanta

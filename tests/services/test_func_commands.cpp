@@ -293,5 +293,181 @@ TEST_F(FuncCommands, ParseAplInfoReadsOnlyBelowTheRowKey) {
   EXPECT_STREQ("second", info.name);
 }
 
+// ---------------------------------------------------------------- error screen close
+
+constexpr const char* kClose = "0.503.2449";
+
+dvc_pnl_cmm_valueset close_request(long job, long error) {
+  return make_valueset({{"0.503.2449.1320", 1},
+                        {"0.503.2449.221", job},
+                        {"0.503.2449.1081", error},
+                        {"0.503.2449.2466", ""},
+                        {"0.503.2449.1002", 0}});
+}
+
+TEST_F(FuncCommands, ErrorScreenCloseSendsTheEventOfTheCurrentFunction) {
+  answer_ok(kClose);
+  for (int function = 1; function <= 18; ++function) {
+    const unsigned long node = Func(function).get_error_event_node_key_by_current_function();
+    if (node == kNone)
+      continue;
+    SCOPED_TRACE(function);
+    const std::string base = "0." + std::to_string(node);
+    store_error_event(
+        function,
+        {{base + ".221", 100 + function}, {base + ".1081", 200 + function}, {base + ".1000", 9}});
+    // Another function's event must not be what goes out.
+    store_error_event(function == 1 ? 3 : 1, {{"0.1080.221", 1}, {"0.1080.1081", 2}});
+    machine().clear_log();
+    EXPECT_EQ(0, Func::dvc_pnl_ceh_get_instance(function)->op_error_screen_close_setting());
+    EXPECT_TRUE(sent_once(kClose, close_request(100 + function, 200 + function)));
+  }
+}
+
+TEST_F(FuncCommands, ErrorScreenCloseStaysSuccessfulWhenTheMachineRefuses) {
+  store_error_event(4, {{"0.1094.221", 5}, {"0.1094.1081", 6}});
+  machine().fail_next_result(kClose, 2);
+  EXPECT_EQ(0, Func(4).op_error_screen_close_setting());
+  EXPECT_TRUE(sent_once(kClose, close_request(5, 6)));
+  EXPECT_TRUE(traced("command result NG. RESULT = 2")) << trace_dump();
+}
+
+TEST_F(FuncCommands, ErrorScreenCloseGives3WhenTheMediatorFails) {
+  store_error_event(4, {{"0.1094.221", 5}, {"0.1094.1081", 6}});
+  answer_ok(kClose);
+  machine().fail_next(verb::invoke, kClose);
+  EXPECT_EQ(3, Func(4).op_error_screen_close_setting());
+  EXPECT_TRUE(traced("invoke failed : ret_code = 3")) << trace_dump();
+}
+
+TEST_F(FuncCommands, ErrorScreenCloseWithoutAJobIdSends0) {
+  answer_ok(kClose);
+  store_error_event(4, {{"0.1094.1081", 6}});
+  EXPECT_EQ(0, Func(4).op_error_screen_close_setting());
+  EXPECT_TRUE(sent_once(kClose, close_request(0, 6)));
+}
+
+TEST_F(FuncCommands, ErrorScreenCloseSendsNothingWithoutAnErrorId) {
+  answer_ok(kClose);
+  struct {
+    const char* name;
+    int function;
+    std::function<void()> arrange;
+    int expected;
+    const char* trace;
+  } cases[] = {
+      {"no event stored", 4, [] {}, 3,
+       "get from PanelDataManager of DVC_PNL_PDM_ERROR_OCCURRENCE ret_code = 3"},
+      {"the manager fails", 4,
+       [] {
+         store_error_event(4, {{"0.1094.221", 5}, {"0.1094.1081", 6}});
+         host::host_data_manager::instance().fail_next(host::dm_op::get);
+       },
+       3, "get from PanelDataManager of DVC_PNL_PDM_ERROR_OCCURRENCE ret_code = 3"},
+      {"the event lies under another node", 4,
+       [] {
+         store_error_event(4, {{"0.1080.221", 5}, {"0.1080.1081", 6}});
+       },
+       3, "error_id ret_code = 3"},
+      {"the event has no error id", 4,
+       [] {
+         store_error_event(4, {{"0.1094.221", 5}, {"0.1094.1000", 6}});
+       },
+       3, "error_id ret_code = 3"},
+      {"the function has no error node", 2,
+       [] {
+         store_error_event(2, {{"0.1080.221", 5}, {"0.1080.1081", 6}});
+       },
+       DVC_PNL_CEH_RET_BAD_ARGUMENT, "it is beyond reasonable scope."},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    host::host_data_manager::instance().reset();
+    host::trace_sink::instance().clear();
+    c.arrange();
+    machine().clear_log();
+    const int ret = Func(c.function).op_error_screen_close_setting();
+    EXPECT_EQ(c.expected, ret);
+    EXPECT_TRUE(calls(verb::invoke).empty());
+    EXPECT_TRUE(traced(c.trace)) << trace_dump();
+  }
+}
+
+// ---------------------------------------------------------------- job cancel in error
+
+constexpr const char* kManipulation = "0.821.847";
+
+class FuncJobCancel : public FuncCommands {
+ protected:
+  void SetUp() override {
+    FuncCommands::SetUp();
+    answer_ok(kManipulation);
+    store_error_event(1, {{"0.1080.221", 12}, {"0.1080.1000", 3402}, {"0.1080.1081", 8}});
+    machine().clear_log();
+  }
+  static int maintenance_flag() {
+    int flag = -1;
+    if (dvc_pnl_ceh_contents_hdl_get_int_from_dm(DVC_PNL_PDM_DVC_CEH_INTEGER, flag, 11) != 0)
+      return -1;
+    return flag;
+  }
+};
+
+TEST_F(FuncJobCancel, CancelsTheCopyJobAndEndsTheMaintenance) {
+  // Whatever function the shared instance serves, the copy function's error is the one.
+  Func::dvc_pnl_ceh_get_instance(3);
+  store_error_event(3, {{"0.1093.221", 1}, {"0.1093.1000", 2}});
+  EXPECT_EQ(0, Func::dvc_pnl_ceh_contents_hdl_set_job_cancel_and_maintenance_finish());
+  EXPECT_TRUE(sent_once(kManipulation, make_valueset({{"0.821.847.1320", 1},
+                                                      {"0.821.847.221", 12},
+                                                      {"0.821.847.1334", 4},
+                                                      {"0.821.847.1000", 3402}})));
+  EXPECT_EQ(1, maintenance_flag());
+}
+
+TEST_F(FuncJobCancel, ARefusalGives1AndLeavesTheMaintenanceRunning) {
+  machine().fail_next_result(kManipulation, 4);
+  EXPECT_EQ(1, Func::dvc_pnl_ceh_contents_hdl_set_job_cancel_and_maintenance_finish());
+  EXPECT_EQ(-1, maintenance_flag());
+  EXPECT_TRUE(traced("command result NG. RESULT = 4")) << trace_dump();
+}
+
+TEST_F(FuncJobCancel, AMediatorFailureGives0AndLeavesTheMaintenanceRunning) {
+  machine().fail_next(verb::invoke, kManipulation);
+  EXPECT_EQ(0, Func::dvc_pnl_ceh_contents_hdl_set_job_cancel_and_maintenance_finish());
+  EXPECT_EQ(-1, maintenance_flag());
+  EXPECT_TRUE(traced("invoke failed : ret_code = 3")) << trace_dump();
+}
+
+TEST_F(FuncJobCancel, AFailedWriteOfTheMaintenanceFlagIsTheResult) {
+  host::host_data_manager::instance().fail_next(host::dm_op::set);
+  EXPECT_EQ(3, Func::dvc_pnl_ceh_contents_hdl_set_job_cancel_and_maintenance_finish());
+  EXPECT_EQ(1u, requests(kManipulation).size());
+  EXPECT_EQ(-1, maintenance_flag());
+}
+
+TEST_F(FuncJobCancel, AnUnreadableErrorSendsNothing) {
+  struct {
+    const char* name;
+    std::vector<entry> fields;  // of function 1's event; empty: none stored
+    const char* trace;
+  } cases[] = {
+      {"no event", {}, "get from PanelDataManager of DVC_PNL_PDM_ERROR_OCCURRENCE ret_code = 3"},
+      {"no job id", {{"0.1080.1000", 3402}}, "job_id ret_code = 3"},
+      {"no error code", {{"0.1080.221", 12}, {"0.1080.1081", 8}}, "error_code ret_code = 3"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    host::host_data_manager::instance().reset();
+    host::trace_sink::instance().clear();
+    if (!c.fields.empty())
+      store_error_event(1, c.fields);
+    EXPECT_EQ(0, Func::dvc_pnl_ceh_contents_hdl_set_job_cancel_and_maintenance_finish());
+    EXPECT_TRUE(calls(verb::invoke).empty());
+    EXPECT_EQ(-1, maintenance_flag());
+    EXPECT_TRUE(traced(c.trace)) << trace_dump();
+  }
+}
+
 }  // namespace
 }  // namespace orvanta::test
