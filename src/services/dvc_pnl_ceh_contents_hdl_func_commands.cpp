@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <cstring>
 #include <initializer_list>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -69,6 +70,12 @@ constexpr int kMaintenanceFunction = 11;
 
 const path kErrorScreenClose = {0, 503, 2449};
 const path kErrorJobManipulation = {0, 821, 847};
+const path kWifiDirectAutoSettingCancel = {0, 503, 3939, 3953, 825};
+const path kWifiDirectWpsPbcStart = {0, 503, 3939, 3953, 3955};
+const path kWifiDirectAcceptance = {0, 503, 3939, 3953, 3954};
+const path kWifiDirectConfirm = {0, 503, 3939, 975};
+const path kWifiCancelConnect = {0, 503, 3492, 3510};
+const path kAccessPointConnection = {0, 503, 3492, 3508};
 
 // The job manipulation that cancels the job in error.
 constexpr long kCancelJob = 4;
@@ -118,6 +125,104 @@ int send_words(const path& command, std::initializer_list<word> words, long* res
   add_words(request, key, words);
   return send(key, request, result);
 }
+
+// ---- access points ----
+
+// The access point record that the selection screens stored for `function`.
+template <typename Record>
+int read_access_point(int function, Record& record) {
+  const int ret = dvc_pnl_ceh_contents_hdl_get_binary_from_dm(DVC_PNL_PDM_CEH_ACCESS_POINT_INFO,
+                                                              &record, sizeof record, function);
+  if (ret != DVC_PNL_CEH_RET_OK)
+    CEH_ERR("get binary from pdm error ret_code = %d", ret);
+  return ret;
+}
+
+// A text field of a record goes out up to its size: a full field need not be terminated.
+template <std::size_t N>
+std::string text_of(const char (&field)[N]) {
+  return std::string(field, strnlen(field, N));
+}
+
+void add_address(dvc_pnl_cmm_valueset& request, const dvc_pnl_cmm_key& key,
+                 const unsigned char (&address)[DVC_PNL_CEH_MAC_ADDRESS_SIZE]) {
+  dvc_pnl_cmm_binary blob;
+  const unsigned long length = DVC_PNL_CEH_MAC_ADDRESS_SIZE;
+  blob.dvc_pnl_cmm_set_data(address, length);
+  dvc_pnl_ceh_contents_hdl_set_binary_to_request_node(request, key, 3519, blob);
+}
+
+// The request group of the access point connection: its nested settings are keyed below it.
+constexpr unsigned long kConnectionGroup[] = {0, 503, 3492};
+constexpr unsigned long kEnterpriseNode = 3499;
+constexpr unsigned long kCertificateNode = 2247;
+
+// The key of `leaf` below `node` of the connection group: 0.503.3492.<node>.<leaf>.
+path connection_setting(unsigned long node, unsigned long leaf) {
+  path nodes(std::begin(kConnectionGroup), std::end(kConnectionGroup));
+  nodes.push_back(node);
+  nodes.push_back(leaf);
+  return nodes;
+}
+
+// The machine's settings of an enterprise network: the identity (string) and the method
+// (integer), both read through their group.
+int enterprise_settings(dvc_pnl_cmm_valueset& settings) {
+  const unsigned long identity_node[] = {0, 633, 3937, 3497, 3499, 3500};
+  std::string identity;
+  int ret = dvc_pnl_ceh_contents_hdl_get_string_from_pnl_cmm(identity_node, 5, 6, identity);
+  if (ret != DVC_PNL_CEH_RET_OK) {
+    CEH_ERR("can not get enterprise identity ret_code = %d", ret);
+    return ret;
+  }
+  const unsigned long method_node[] = {0, 633, 3937, 3497, 3499, 3938};
+  long method = 0;
+  ret = dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm(method_node, 5, 6, method);
+  if (ret != DVC_PNL_CEH_RET_OK) {
+    CEH_ERR("can not get enterprise method ret_code = %d", ret);
+    return ret;
+  }
+  const path identity_key = connection_setting(kEnterpriseNode, 3500);
+  const path method_key = connection_setting(kEnterpriseNode, 3938);
+  dvc_pnl_ceh_contents_hdl_set_string_to_valueset(identity_key.data(), 0,
+                                                  static_cast<unsigned>(identity_key.size()),
+                                                  settings, identity.c_str());
+  dvc_pnl_ceh_contents_hdl_set_int_to_valueset(
+      method_key.data(), 0, static_cast<unsigned>(method_key.size()), settings, method);
+  return DVC_PNL_CEH_RET_OK;
+}
+
+// The machine's certificate setting of the wireless network, read through its group.
+int certificate_setting(dvc_pnl_cmm_valueset& settings) {
+  const unsigned long certificate_node[] = {0, 633, 3937, 3501, 3503, 2247};
+  long certificate = 0;
+  const int ret =
+      dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm(certificate_node, 5, 6, certificate);
+  if (ret != DVC_PNL_CEH_RET_OK) {
+    CEH_ERR("can not get certificate setting ret_code = %d", ret);
+    return ret;
+  }
+  const path certificate_key = connection_setting(kCertificateNode, 2247);
+  dvc_pnl_ceh_contents_hdl_set_int_to_valueset(certificate_key.data(), 0,
+                                               static_cast<unsigned>(certificate_key.size()),
+                                               settings, certificate);
+  return DVC_PNL_CEH_RET_OK;
+}
+
+// Adds the settings that `gather` reads from the machine as one set at request node `node`.
+int add_settings(dvc_pnl_cmm_valueset& request, const dvc_pnl_cmm_key& key, unsigned long node,
+                 int (*gather)(dvc_pnl_cmm_valueset&)) {
+  dvc_pnl_cmm_valueset settings;
+  const int ret = gather(settings);
+  if (ret == DVC_PNL_CEH_RET_OK)
+    dvc_pnl_ceh_contents_hdl_set_valueset_to_request_node(request, key, node, settings);
+  return ret;
+}
+
+// The security value of an access point that asks for the enterprise settings, and the value of
+// the certificate word that asks for the certificate setting.
+constexpr std::int32_t kEnterpriseSecurity = 2;
+constexpr std::int32_t kWithCertificate = 1;
 
 // ---- paper ----
 
@@ -319,6 +424,96 @@ int dvc_pnl_ceh_contents_hdl_func::
   // Tells the maintenance function, through its hand-over entry, that its job has ended.
   return dvc_pnl_ceh_contents_hdl_set_int_to_dm(DVC_PNL_PDM_DVC_CEH_INTEGER, 1,
                                                 kMaintenanceFunction);
+}
+
+// ---------------------------------------------------------------- Wi-Fi
+
+int dvc_pnl_ceh_contents_hdl_func::dvc_pnl_ceh_contents_hdl_wifi_direct_auto_setting_cancel(
+    long& result) const {
+  return send_words(kWifiDirectAutoSettingCancel, {{DVC_PNL_CEH_NODE_REQUEST_KIND, 1}}, &result);
+}
+
+int dvc_pnl_ceh_contents_hdl_func::dvc_pnl_ceh_contents_hdl_wifi_direct_wps_pbc_connection_start()
+    const {
+  return send_words(kWifiDirectWpsPbcStart, {{DVC_PNL_CEH_NODE_REQUEST_KIND, 2}}, nullptr);
+}
+
+int dvc_pnl_ceh_contents_hdl_func::dvc_pnl_ceh_contents_hdl_wifi_direct_acceptance(
+    long& result) const {
+  return send_words(kWifiDirectAcceptance, {{DVC_PNL_CEH_NODE_REQUEST_KIND, 1}}, &result);
+}
+
+int dvc_pnl_ceh_contents_hdl_func::dvc_pnl_ceh_contents_hdl_wifi_direct_confirm(
+    long& result) const {
+  return send_words(kWifiDirectConfirm, {{DVC_PNL_CEH_NODE_REQUEST_KIND, 1}}, &result);
+}
+
+int dvc_pnl_ceh_contents_hdl_func::dvc_pnl_ceh_contents_hdl_wifi_cancel_connect(
+    long& result) const {
+  return send_words(kWifiCancelConnect, {{DVC_PNL_CEH_NODE_REQUEST_KIND, 2}, {3959, 2}}, &result);
+}
+
+int dvc_pnl_ceh_contents_hdl_func::dvc_pnl_ceh_contents_hdl_execute_access_point_connection()
+    const {
+  ACCESS_POINT_INFO info{};
+  const int ret = read_access_point(function_id_, info);
+  if (ret != DVC_PNL_CEH_RET_OK)
+    return ret;
+  const dvc_pnl_cmm_key key = key_of(kAccessPointConnection);
+  dvc_pnl_cmm_valueset request;
+  add_words(request, key,
+            {{DVC_PNL_CEH_NODE_REQUEST_KIND, 2},
+             {3511, info.value_3511},
+             {3512, info.value_3512},
+             {3513, info.value_3513},
+             {3514, info.value_3514},
+             {3496, info.value_3496},
+             {3515, info.value_3515},
+             {3516, info.value_3516},
+             {3517, info.value_3517},
+             {3518, info.value_3518}});
+  dvc_pnl_ceh_contents_hdl_set_string_to_request_node(request, key, 3495,
+                                                      text_of(info.ssid).c_str());
+  add_address(request, key, info.address);
+  return send(key, request, nullptr);
+}
+
+int dvc_pnl_ceh_contents_hdl_func::dvc_pnl_ceh_contents_hdl_execute_wifi_access_point_connection(
+    long& result) const {
+  WIFI_ACCESS_POINT_INFO info{};
+  int ret = read_access_point(function_id_, info);
+  if (ret != DVC_PNL_CEH_RET_OK)
+    return ret;
+  const std::string ssid = text_of(info.ssid);
+  const dvc_pnl_cmm_key key = key_of(kAccessPointConnection);
+  dvc_pnl_cmm_valueset request;
+  add_words(request, key,
+            {{DVC_PNL_CEH_NODE_REQUEST_KIND, 1},
+             {3959, 2},
+             {3511, 0},
+             {3512, 0},
+             {3513, info.value_3513},
+             {3514, info.value_3514},
+             {3496, info.value_3496},
+             {3515, info.value_3515},
+             {3516, 0},
+             {3517, 0},
+             {3957, info.value_3957},
+             {3518, static_cast<long>(ssid.size())}});
+  dvc_pnl_ceh_contents_hdl_set_string_to_request_node(request, key, 3495, ssid.c_str());
+  // A connection that cannot carry the settings its network asks for is not tried.
+  if (info.value_3513 == kEnterpriseSecurity) {
+    ret = add_settings(request, key, kEnterpriseNode, enterprise_settings);
+    if (ret != DVC_PNL_CEH_RET_OK)
+      return ret;
+  }
+  if (info.value_3957 == kWithCertificate) {
+    ret = add_settings(request, key, kCertificateNode, certificate_setting);
+    if (ret != DVC_PNL_CEH_RET_OK)
+      return ret;
+  }
+  add_address(request, key, info.address);
+  return send(key, request, &result);
 }
 
 }  // namespace orvanta

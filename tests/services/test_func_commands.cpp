@@ -293,6 +293,94 @@ TEST_F(FuncCommands, ParseAplInfoReadsOnlyBelowTheRowKey) {
   EXPECT_STREQ("second", info.name);
 }
 
+// ---------------------------------------------------------------- Wi-Fi commands
+
+struct wifi_command {
+  const char* name;
+  const char* command;
+  std::vector<entry> request;
+  bool gives_result;  // RESULT goes into the caller's variable
+  std::function<int(const Func&, long&)> call;
+};
+
+std::vector<wifi_command> wifi_commands() {
+  return {
+      {"auto setting cancel",
+       "0.503.3939.3953.825",
+       {{"0.503.3939.3953.825.1320", 1}},
+       true,
+       [](const Func& f, long& r) {
+         return f.dvc_pnl_ceh_contents_hdl_wifi_direct_auto_setting_cancel(r);
+       }},
+      {"push button start",
+       "0.503.3939.3953.3955",
+       {{"0.503.3939.3953.3955.1320", 2}},
+       false,
+       [](const Func& f, long&) {
+         return f.dvc_pnl_ceh_contents_hdl_wifi_direct_wps_pbc_connection_start();
+       }},
+      {"acceptance",
+       "0.503.3939.3953.3954",
+       {{"0.503.3939.3953.3954.1320", 1}},
+       true,
+       [](const Func& f, long& r) { return f.dvc_pnl_ceh_contents_hdl_wifi_direct_acceptance(r); }},
+      {"confirm",
+       "0.503.3939.975",
+       {{"0.503.3939.975.1320", 1}},
+       true,
+       [](const Func& f, long& r) { return f.dvc_pnl_ceh_contents_hdl_wifi_direct_confirm(r); }},
+      {"cancel connect",
+       "0.503.3492.3510",
+       {{"0.503.3492.3510.1320", 2}, {"0.503.3492.3510.3959", 2}},
+       true,
+       [](const Func& f, long& r) { return f.dvc_pnl_ceh_contents_hdl_wifi_cancel_connect(r); }},
+  };
+}
+
+TEST_F(FuncCommands, WifiCommandsSendTheirRequestAndAnswerRESULT) {
+  for (const wifi_command& c : wifi_commands()) {
+    SCOPED_TRACE(c.name);
+    machine().reset();
+    answer_ok(c.command);
+    long result = 99;
+    EXPECT_EQ(0, c.call(Func(3), result));
+    EXPECT_TRUE(sent_once(c.command, make_valueset(c.request)));
+    EXPECT_EQ(c.gives_result ? 0 : 99, result);
+  }
+}
+
+TEST_F(FuncCommands, WifiCommandsHandAMachineRefusalOn) {
+  for (const wifi_command& c : wifi_commands()) {
+    SCOPED_TRACE(c.name);
+    host::trace_sink::instance().clear();
+    machine().fail_next_result(c.command, 7);
+    long result = 99;
+    EXPECT_EQ(0, c.call(Func(3), result));
+    EXPECT_EQ(c.gives_result ? 7 : 99, result);
+    EXPECT_EQ(c.gives_result, traced("command result NG. RESULT = 7")) << trace_dump();
+  }
+}
+
+TEST_F(FuncCommands, WifiCommandsReadNothingAfterAMediatorFailure) {
+  for (const wifi_command& c : wifi_commands()) {
+    SCOPED_TRACE(c.name);
+    host::trace_sink::instance().clear();
+    answer_ok(c.command);
+    machine().fail_next(verb::invoke, c.command);
+    long result = 99;
+    EXPECT_EQ(3, c.call(Func(3), result));
+    EXPECT_EQ(99, result);
+    EXPECT_TRUE(traced("invoke failed : ret_code = 3")) << trace_dump();
+  }
+}
+
+TEST_F(FuncCommands, AnAnswerWithoutRESULTIsNoSuccess) {
+  machine().script_next_response("0.503.3939.975", dvc_pnl_cmm_valueset());
+  long result = 0;
+  EXPECT_EQ(0, Func(3).dvc_pnl_ceh_contents_hdl_wifi_direct_confirm(result));
+  EXPECT_EQ(-1, result);
+}
+
 // ---------------------------------------------------------------- error screen close
 
 constexpr const char* kClose = "0.503.2449";
@@ -467,6 +555,239 @@ TEST_F(FuncJobCancel, AnUnreadableErrorSendsNothing) {
     EXPECT_EQ(-1, maintenance_flag());
     EXPECT_TRUE(traced(c.trace)) << trace_dump();
   }
+}
+
+// ---------------------------------------------------------------- access points
+
+constexpr const char* kConnect = "0.503.3492.3508";
+constexpr int kWifiFunction = 10;
+
+template <typename Record>
+void store_record(const Record& record, int function = kWifiFunction) {
+  ASSERT_EQ(0, dvc_pnl_ceh_contents_hdl_set_binary_to_dm(DVC_PNL_PDM_CEH_ACCESS_POINT_INFO, &record,
+                                                         sizeof record, function));
+}
+
+ACCESS_POINT_INFO access_point() {
+  ACCESS_POINT_INFO info{};
+  info.value_3511 = 11;
+  info.value_3512 = 12;
+  info.value_3513 = 13;
+  info.value_3514 = 14;
+  info.value_3496 = 15;
+  info.value_3515 = 16;
+  info.value_3516 = 17;
+  info.value_3517 = 18;
+  info.value_3518 = 19;
+  std::strcpy(info.ssid, "office-net");
+  const unsigned char address[] = {0x00, 0x1b, 0x2c, 0x3d, 0x4e, 0xff};
+  std::memcpy(info.address, address, sizeof address);
+  return info;
+}
+
+TEST_F(FuncCommands, AccessPointConnectionSendsTheRecordInOrder) {
+  answer_ok(kConnect);
+  store_record(access_point());
+  store_record(ACCESS_POINT_INFO{}, 3);  // another function's choice
+  EXPECT_EQ(0, Func(kWifiFunction).dvc_pnl_ceh_contents_hdl_execute_access_point_connection());
+  const std::string c = kConnect;
+  EXPECT_TRUE(sent_once(kConnect, make_valueset({
+                                      {c + ".1320", 2},
+                                      {c + ".3511", 11},
+                                      {c + ".3512", 12},
+                                      {c + ".3513", 13},
+                                      {c + ".3514", 14},
+                                      {c + ".3496", 15},
+                                      {c + ".3515", 16},
+                                      {c + ".3516", 17},
+                                      {c + ".3517", 18},
+                                      {c + ".3518", 19},
+                                      {c + ".3495", "office-net"},
+                                      {c + ".3519", bytes{0x00, 0x1b, 0x2c, 0x3d, 0x4e, 0xff}},
+                                  })));
+}
+
+TEST_F(FuncCommands, AccessPointConnectionSendsAFullNameWhole) {
+  answer_ok(kConnect);
+  ACCESS_POINT_INFO info = access_point();
+  std::memset(info.ssid, 'w', sizeof info.ssid);  // 33 bytes, no terminator
+  store_record(info);
+  EXPECT_EQ(0, Func(kWifiFunction).dvc_pnl_ceh_contents_hdl_execute_access_point_connection());
+  const std::vector<dvc_pnl_cmm_valueset> sent = requests(kConnect);
+  ASSERT_EQ(1u, sent.size());
+  const char* ssid = nullptr;
+  ASSERT_EQ(0, sent[0].dvc_pnl_cmm_get_string(key_of("0.503.3492.3508.3495"), ssid));
+  EXPECT_EQ(std::string(DVC_PNL_CEH_SSID_SIZE, 'w'), ssid);
+}
+
+TEST_F(FuncCommands, AccessPointConnectionAnswersTheInvoke) {
+  store_record(access_point());
+  // A refusal is the caller's to read from the machine: the result is that of the call.
+  machine().fail_next_result(kConnect, 5);
+  EXPECT_EQ(0, Func(kWifiFunction).dvc_pnl_ceh_contents_hdl_execute_access_point_connection());
+
+  answer_ok(kConnect);
+  machine().fail_next(verb::invoke, kConnect);
+  EXPECT_EQ(3, Func(kWifiFunction).dvc_pnl_ceh_contents_hdl_execute_access_point_connection());
+  EXPECT_TRUE(traced("invoke failed : ret_code = 3")) << trace_dump();
+}
+
+TEST_F(FuncCommands, AccessPointConnectionNeedsItsRecord) {
+  answer_ok(kConnect);
+  // Nothing stored: the manager has no entry.
+  EXPECT_EQ(3, Func(kWifiFunction).dvc_pnl_ceh_contents_hdl_execute_access_point_connection());
+  EXPECT_TRUE(traced("get binary from pdm error ret_code = 3")) << trace_dump();
+  // A record of the other size is not this one.
+  store_record(WIFI_ACCESS_POINT_INFO{});
+  EXPECT_EQ(6, Func(kWifiFunction).dvc_pnl_ceh_contents_hdl_execute_access_point_connection());
+  EXPECT_TRUE(traced("get binary from pdm error ret_code = 6")) << trace_dump();
+  EXPECT_TRUE(calls(verb::invoke).empty());
+}
+
+// ---------------------------------------------------------------- Wi-Fi access points
+
+WIFI_ACCESS_POINT_INFO wifi_access_point(std::int32_t security, std::int32_t certificate) {
+  WIFI_ACCESS_POINT_INFO info{};
+  info.value_3513 = security;
+  info.value_3514 = 24;
+  info.value_3496 = 25;
+  info.value_3515 = 26;
+  info.value_3957 = certificate;
+  std::strcpy(info.ssid, "lab-5G");
+  const unsigned char address[] = {0xa0, 0xb1, 0xc2, 0xd3, 0xe4, 0xf5};
+  std::memcpy(info.address, address, sizeof address);
+  return info;
+}
+
+// The request of a Wi-Fi connection with `security` and `certificate`, and `more` entries.
+dvc_pnl_cmm_valueset wifi_request(long security, long certificate, std::vector<entry> more = {}) {
+  const std::string c = kConnect;
+  std::vector<entry> entries = {
+      {c + ".1320", 1},           {c + ".3959", 2},
+      {c + ".3511", 0},           {c + ".3512", 0},
+      {c + ".3513", security},    {c + ".3514", 24},
+      {c + ".3496", 25},          {c + ".3515", 26},
+      {c + ".3516", 0},           {c + ".3517", 0},
+      {c + ".3957", certificate}, {c + ".3518", 6},
+      {c + ".3495", "lab-5G"},    {c + ".3519", bytes{0xa0, 0xb1, 0xc2, 0xd3, 0xe4, 0xf5}},
+  };
+  entries.insert(entries.end(), more.begin(), more.end());
+  return make_valueset(entries);
+}
+
+class FuncWifiConnection : public FuncCommands {
+ protected:
+  void SetUp() override {
+    FuncCommands::SetUp();
+    answer_ok(kConnect);
+    store_settings();
+  }
+  // The machine's enterprise and certificate settings.
+  static void store_settings() {
+    machine().set_string("0.633.3937.3497.3499.3500", "corp\\alice");
+    machine().set_int("0.633.3937.3497.3499.3938", 3);
+    machine().set_int("0.633.3937.3501.3503.2247", 2);
+    machine().clear_log();
+  }
+  static int connect(long& result) {
+    return Func(kWifiFunction)
+        .dvc_pnl_ceh_contents_hdl_execute_wifi_access_point_connection(result);
+  }
+};
+
+TEST_F(FuncWifiConnection, SendsTheRecordWithTheFixedWords) {
+  store_record(wifi_access_point(1, 0));
+  long result = 99;
+  EXPECT_EQ(0, connect(result));
+  EXPECT_EQ(0, result);
+  EXPECT_TRUE(sent_once(kConnect, wifi_request(1, 0)));
+  EXPECT_TRUE(calls(verb::get).empty());
+}
+
+TEST_F(FuncWifiConnection, AddsTheSettingsTheNetworkAsksFor) {
+  const dvc_pnl_cmm_valueset enterprise =
+      make_valueset({{"0.503.3492.3499.3500", "corp\\alice"}, {"0.503.3492.3499.3938", 3}});
+  const dvc_pnl_cmm_valueset certificate = make_valueset({{"0.503.3492.2247.2247", 2}});
+  const struct {
+    const char* name;
+    std::int32_t security, with_certificate;
+    std::vector<entry> more;
+    Strings reads;
+  } cases[] = {
+      {"enterprise",
+       2,
+       0,
+       {{"0.503.3492.3508.3499", enterprise}},
+       {"0.633.3937.3497.3499", "0.633.3937.3497.3499"}},
+      {"certificate", 1, 1, {{"0.503.3492.3508.2247", certificate}}, {"0.633.3937.3501.3503"}},
+      {"both",
+       2,
+       1,
+       {{"0.503.3492.3508.3499", enterprise}, {"0.503.3492.3508.2247", certificate}},
+       {"0.633.3937.3497.3499", "0.633.3937.3497.3499", "0.633.3937.3501.3503"}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    machine().clear_log();
+    store_record(wifi_access_point(c.security, c.with_certificate));
+    long result = 99;
+    EXPECT_EQ(0, connect(result));
+    EXPECT_EQ(0, result);
+    EXPECT_TRUE(sent_once(kConnect, wifi_request(c.security, c.with_certificate, c.more)));
+    EXPECT_EQ(c.reads, calls(verb::get));
+  }
+}
+
+TEST_F(FuncWifiConnection, AMissingSettingStopsTheConnection) {
+  const struct {
+    const char* name;
+    std::int32_t security, with_certificate;
+    const char* node;
+    const char* trace;
+  } cases[] = {
+      {"identity", 2, 0, "0.633.3937.3497.3499.3500",
+       "can not get enterprise identity ret_code = 3"},
+      {"method", 2, 0, "0.633.3937.3497.3499.3938", "can not get enterprise method ret_code = 3"},
+      {"certificate", 1, 1, "0.633.3937.3501.3503.2247",
+       "can not get certificate setting ret_code = 3"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    host::trace_sink::instance().clear();
+    store_settings();
+    machine().remove_node(c.node);
+    store_record(wifi_access_point(c.security, c.with_certificate));
+    long result = 99;
+    EXPECT_EQ(3, connect(result));
+    EXPECT_EQ(99, result);
+    EXPECT_TRUE(calls(verb::invoke).empty());
+    EXPECT_TRUE(traced(c.trace)) << trace_dump();
+  }
+}
+
+TEST_F(FuncWifiConnection, RESULTGoesToTheCaller) {
+  store_record(wifi_access_point(1, 0));
+  machine().fail_next_result(kConnect, 6);
+  long result = 99;
+  EXPECT_EQ(0, connect(result));
+  EXPECT_EQ(6, result);
+  EXPECT_TRUE(traced("command result NG. RESULT = 6")) << trace_dump();
+
+  machine().fail_next(verb::invoke, kConnect);
+  result = 99;
+  EXPECT_EQ(3, connect(result));
+  EXPECT_EQ(99, result);
+  EXPECT_TRUE(traced("invoke failed : ret_code = 3")) << trace_dump();
+}
+
+TEST_F(FuncWifiConnection, NeedsItsRecord) {
+  long result = 99;
+  EXPECT_EQ(3, connect(result));
+  store_record(access_point());  // the 76-byte record of the other connection
+  EXPECT_EQ(6, connect(result));
+  EXPECT_TRUE(traced("get binary from pdm error ret_code = 6")) << trace_dump();
+  EXPECT_EQ(99, result);
+  EXPECT_TRUE(calls(verb::invoke).empty());
 }
 
 }  // namespace
