@@ -503,6 +503,7 @@ void simulated_machine::reset() {
   const std::string error = load_model_json(detail::default_model_json(), true);
   if (!error.empty())
     throw std::logic_error("default model: " + error);
+  detail::apply_job_settings(*this);
   detail::install_lock_service(*this);
   detail::install_record_services(*this);
 }
