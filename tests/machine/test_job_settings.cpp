@@ -1,4 +1,4 @@
-// The default machine's job settings trees.
+// The default machine's job settings trees and the setting transaction service over them.
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -7,12 +7,30 @@
 #include <vector>
 
 #include "orvanta/machine/simulated_machine.h"
+#include "orvanta/machine/transaction_service.h"
 #include "support/machine_test.h"
 #include "support/valueset_builder.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util.h"
 
 namespace orvanta::test {
 namespace {
+
+using machine::kSettingCancelled;
+using machine::kSettingCommitted;
+using machine::kSettingRefused;
+using machine::kSettingStarted;
+using machine::open_setting_levels;
+
+constexpr const char* kStartup = "0.821.822.823";
+constexpr const char* kCommit = "0.821.822.824";
+constexpr const char* kCancel = "0.821.822.825";
+
+// Common function ids of the requests.
+constexpr long kCopy = 1;
+constexpr long kSend = 3;
+constexpr long kFax = 4;
+constexpr long kBoxPrint = 5;
+constexpr long kBoxStore = 6;
 
 const std::vector<unsigned long> kFunctionNodes = {2, 161, 206, 207, 214};
 
@@ -189,6 +207,210 @@ TEST_F(JobSettings, TheCustomPaperWeightsAreATableOfEightReadByIndex) {
   dvc_pnl_cmm_valueset beyond;
   EXPECT_NE(0, dvc_pnl_ceh_contents_hdl_get_valueset_from_pnl_cmm_by_index(
                    table.data(), 0, static_cast<unsigned>(table.size()), 8, beyond));
+}
+
+// ---------------------------------------------------------------- the transaction service
+
+class SettingTransaction : public MachineTest {
+ protected:
+  // RESULT of `command` asked for `function` with a well-formed request.
+  static long ask(const std::string& command, long function) {
+    return ask_with(command,
+                    make_valueset({{command + ".1320", 1L}, {command + ".1035", function}}));
+  }
+
+  static long ask_with(const std::string& command, const dvc_pnl_cmm_valueset& request) {
+    dvc_pnl_cmm_valueset response;
+    EXPECT_EQ(0, machine().dvc_pnl_cmm_invoke(key_of(command), request, response)) << command;
+    long result = -99;
+    EXPECT_EQ(0, response.dvc_pnl_cmm_get_int(key_of(command + ".1484"), result)) << dump(response);
+    EXPECT_EQ(1u, response.dvc_pnl_cmm_size()) << "RESULT alone: " << dump(response);
+    return result;
+  }
+
+  // Writes through the mediator, as the panel does.
+  static void write(const std::string& path, long value) {
+    dvc_pnl_cmm_value v;
+    ASSERT_EQ(0, v.dvc_pnl_cmm_set_int(value));
+    ASSERT_EQ(0, machine().dvc_pnl_cmm_set_value(key_of(path), v, 0)) << path;
+  }
+
+  static long read(const std::string& path) { return machine().int_at(path).value_or(-99); }
+
+  // The whole tree of a function, printed, to compare before and after.
+  static std::string tree(const char* root) {
+    const std::optional<dvc_pnl_cmm_value> v = machine().node(root);
+    return v ? dump(*v) : "(none)";
+  }
+};
+
+TEST_F(SettingTransaction, EachCommandAnswersItsOwnResultForSuccess) {
+  // The values the panel compares with, written out: startup 0, commit 1, cancel 3, refusal 2.
+  EXPECT_EQ(0, ask(kStartup, kCopy));
+  EXPECT_EQ(1, ask(kCommit, kCopy));
+  EXPECT_EQ(0, ask(kStartup, kCopy));
+  EXPECT_EQ(3, ask(kCancel, kCopy));
+  EXPECT_EQ(2, ask(kCancel, kCopy));
+}
+
+TEST_F(SettingTransaction, CancelRestoresTheTreeAsItWasAndCommitKeepsTheChanges) {
+  const std::string before = tree("0.1.2");
+  ASSERT_EQ(kSettingStarted, ask(kStartup, kCopy));
+  write("0.1.2.160.148.149", 0);
+  write("0.1.2.3.12.28", 5);      // the default scope is covered too
+  write("0.1.2.160.12.9999", 7);  // a node the level did not see
+  machine().remove_node("0.1.2.160.46.49.51");
+  ASSERT_EQ(kSettingCancelled, ask(kCancel, kCopy));
+  EXPECT_EQ(before, tree("0.1.2"));
+  EXPECT_FALSE(machine().node("0.1.2.160.12.9999").has_value());
+
+  ASSERT_EQ(kSettingStarted, ask(kStartup, kCopy));
+  write("0.1.2.160.148.149", 0);
+  write("0.1.2.160.12.9999", 7);
+  ASSERT_EQ(kSettingCommitted, ask(kCommit, kCopy));
+  EXPECT_EQ(0, read("0.1.2.160.148.149"));
+  EXPECT_EQ(7, read("0.1.2.160.12.9999"));
+}
+
+TEST_F(SettingTransaction, NestedLevelsCloseInnermostFirst) {
+  // Inner commit, outer cancel: the outer level rolls back both changes.
+  const std::string before = tree("0.1.2");
+  ask(kStartup, kCopy);
+  write("0.1.2.160.148.149", 0);
+  ask(kStartup, kCopy);
+  write("0.1.2.160.12.28", 2);
+  EXPECT_EQ(kSettingCommitted, ask(kCommit, kCopy));
+  EXPECT_EQ(2, read("0.1.2.160.12.28"));
+  EXPECT_EQ(kSettingCancelled, ask(kCancel, kCopy));
+  EXPECT_EQ(before, tree("0.1.2"));
+
+  // Inner cancel, outer commit: only the outer change stays.
+  ask(kStartup, kCopy);
+  write("0.1.2.160.148.149", 0);
+  ask(kStartup, kCopy);
+  write("0.1.2.160.12.28", 2);
+  write("0.1.2.160.148.149", 5);
+  EXPECT_EQ(kSettingCancelled, ask(kCancel, kCopy));
+  EXPECT_EQ(0, read("0.1.2.160.148.149"));
+  EXPECT_EQ(kSettingCommitted, ask(kCommit, kCopy));
+  EXPECT_EQ(0, read("0.1.2.160.148.149"));
+  EXPECT_EQ(0, read("0.1.2.160.12.28"));
+  EXPECT_EQ(0u, open_setting_levels(kCopy));
+}
+
+TEST_F(SettingTransaction, FunctionsKeepTheirOwnLevelsAndTrees) {
+  struct function_case {
+    long function;
+    const char* root;
+  };
+  const function_case functions[] = {{kCopy, "0.1.2"},
+                                     {kSend, "0.1.161"},
+                                     {kFax, "0.1.206"},
+                                     {kBoxPrint, "0.1.207"},
+                                     {kBoxStore, "0.1.214"}};
+  for (const function_case& cancelled : functions) {
+    machine().reset();
+    const std::string before = tree(cancelled.root);
+    for (const function_case& f : functions) {
+      ASSERT_EQ(kSettingStarted, ask(kStartup, f.function));
+      write(std::string(f.root) + ".160.1.11", 9);
+    }
+    EXPECT_EQ(kSettingCancelled, ask(kCancel, cancelled.function));
+    EXPECT_EQ(before, tree(cancelled.root)) << cancelled.root;
+    for (const function_case& f : functions) {
+      const bool is_cancelled = f.function == cancelled.function;
+      EXPECT_EQ(is_cancelled ? 0 : 9, read(std::string(f.root) + ".160.1.11"))
+          << f.root << " after cancelling " << cancelled.root;
+      EXPECT_EQ(is_cancelled ? 0u : 1u, open_setting_levels(f.function)) << f.root;
+    }
+  }
+}
+
+TEST_F(SettingTransaction, CancelRemovesATreeThatDidNotExistWhenTheLevelOpened) {
+  machine().remove_node("0.1.214");
+  ask(kStartup, kBoxStore);
+  write("0.1.214.160.216.217", 3);
+  EXPECT_EQ(kSettingCancelled, ask(kCancel, kBoxStore));
+  EXPECT_FALSE(machine().node("0.1.214").has_value());
+}
+
+TEST_F(SettingTransaction, AFunctionWithoutATreeOpensLevelsThatCoverNothing) {
+  const std::string before = tree("0.1");
+  EXPECT_EQ(kSettingStarted, ask(kStartup, 9));
+  EXPECT_EQ(1u, open_setting_levels(9));
+  EXPECT_EQ(0u, open_setting_levels(kCopy));
+  write("0.1.2.160.148.149", 0);
+  EXPECT_EQ(kSettingCancelled, ask(kCancel, 9));
+  EXPECT_EQ(0, read("0.1.2.160.148.149")) << "function 9 covers no tree";
+  EXPECT_EQ(0u, open_setting_levels(9));
+  write("0.1.2.160.148.149", 1);
+  EXPECT_EQ(before, tree("0.1"));
+}
+
+TEST_F(SettingTransaction, CommitOrCancelWithoutAnOpenLevelIsRefused) {
+  const std::string before = tree("0.1");
+  EXPECT_EQ(kSettingRefused, ask(kCommit, kCopy));
+  EXPECT_EQ(kSettingRefused, ask(kCancel, kCopy));
+  // A level of another function is not one of copy's.
+  ask(kStartup, kSend);
+  write("0.1.2.160.148.149", 0);
+  EXPECT_EQ(kSettingRefused, ask(kCancel, kCopy));
+  EXPECT_EQ(0, read("0.1.2.160.148.149"));
+  EXPECT_EQ(1u, open_setting_levels(kSend));
+  // Closing more levels than were opened.
+  EXPECT_EQ(kSettingCommitted, ask(kCommit, kSend));
+  EXPECT_EQ(kSettingRefused, ask(kCommit, kSend));
+  write("0.1.2.160.148.149", 1);
+  EXPECT_EQ(before, tree("0.1"));
+}
+
+TEST_F(SettingTransaction, BadRequestsAreRefusedAndChangeNothing) {
+  struct bad_case {
+    const char* what;
+    std::vector<entry> words;  // below the command
+  };
+  const bad_case cases[] = {
+      {"no request kind", {{"1035", 1L}}},
+      {"request kind 2", {{"1320", 2L}, {"1035", 1L}}},
+      {"no common function", {{"1320", 1L}}},
+      {"common function as text", {{"1320", 1L}, {"1035", "1"}}},
+  };
+  for (const char* command : {kStartup, kCommit, kCancel}) {
+    for (const bad_case& c : cases) {
+      machine().reset();
+      ask(kStartup, kCopy);  // an open level that a bad commit or cancel must leave alone
+      write("0.1.2.160.148.149", 0);
+      std::vector<entry> words;
+      for (const entry& e : c.words)
+        words.push_back({std::string(command) + "." + e.path, e.value});
+      dvc_pnl_cmm_valueset request = words.empty() ? dvc_pnl_cmm_valueset{} : make_valueset(words);
+      EXPECT_EQ(kSettingRefused, ask_with(command, request)) << command << ": " << c.what;
+      EXPECT_EQ(1u, open_setting_levels(kCopy)) << command << ": " << c.what;
+      EXPECT_EQ(0, read("0.1.2.160.148.149")) << command << ": " << c.what;
+    }
+  }
+  machine().reset();
+  EXPECT_EQ(kSettingRefused, ask_with(kStartup, dvc_pnl_cmm_valueset{})) << "an empty request";
+  EXPECT_EQ(0u, open_setting_levels(kCopy));
+}
+
+TEST_F(SettingTransaction, LevelsAreCountedPerFunctionAndResetDropsThem) {
+  for (int i = 0; i < 3; ++i)
+    ask(kStartup, kCopy);
+  ask(kStartup, kFax);
+  EXPECT_EQ(3u, open_setting_levels(kCopy));
+  EXPECT_EQ(1u, open_setting_levels(kFax));
+  EXPECT_EQ(0u, open_setting_levels(kSend));
+  ask(kCancel, kCopy);
+  ask(kCommit, kCopy);
+  EXPECT_EQ(1u, open_setting_levels(kCopy));
+
+  write("0.1.2.160.148.149", 0);
+  machine().reset();
+  EXPECT_EQ(0u, open_setting_levels(kCopy));
+  EXPECT_EQ(0u, open_setting_levels(kFax));
+  EXPECT_EQ(kSettingRefused, ask(kCancel, kCopy));
+  EXPECT_EQ(1, read("0.1.2.160.148.149")) << "the default model again";
 }
 
 }  // namespace
