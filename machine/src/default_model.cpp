@@ -10,10 +10,10 @@ const char* default_model_json() {
   // SAMPLE DATA. A colour machine for Europe with a fax unit, a document processor, a manual tray
   // and four cassettes, on the network, with user login and job accounting off.
   //
-  // Paper sources: the job settings of copy (0.1.2) and box (0.1.207) choose the source at
-  // 160.46.49 (50 chosen by hand, 51 cassette, 52/53/55/2382 manual tray setting, size, kind,
-  // orientation); each feeder (0.704.705.715: 723 manual tray, 372, 375, 376, 377 cassettes 1 to
-  // 4) has size 373, kind 719, quantity 477 and orientation 718.
+  // The job settings of each function (0.1.F) are not in this file: job_settings.cpp writes them
+  // over it on every reset, among them the paper source of copy and box print.
+  // Feeders (0.704.705.715: 723 manual tray, 372, 375, 376, 377 cassettes 1 to 4) have size 373,
+  // kind 719, quantity 477 and orientation 718.
   // The clock 0.4167.1499: 313 year, 314 month, 315 day, 201 hour, 202 minute, 317 second.
   // Job permissions 0.1902.<n>: 1 allowed, 2 barred. External address books 0.230.2520.3588 and
   // fax server books 0.230.3986.3588: four rows, 3589 in use, 9 name.
@@ -49,22 +49,6 @@ const char* default_model_json() {
     "0.230.231.2903.2905": 1,
     "0.230.3313.4154": "Panel simulator",
 
-    "0.1.2.160.12.18.20": 4,
-    "0.1.2.160.46.49.50": 0,
-    "0.1.2.160.46.49.51": 1,
-    "0.1.2.160.46.49.52": 0,
-    "0.1.2.160.46.49.53": 4,
-    "0.1.2.160.46.49.55": 1,
-    "0.1.2.160.46.49.2382": 0,
-    "0.1.207.160.46.49.50": 0,
-    "0.1.207.160.46.49.51": 1,
-    "0.1.207.160.46.49.52": 0,
-    "0.1.207.160.46.49.53": 4,
-    "0.1.207.160.46.49.55": 1,
-    "0.1.207.160.46.49.2382": 0,
-    "0.1.161.160.203.204": 0,
-    "0.1.161.160.3985": 0,
-    "0.1.206.160.203.204": 0,
     "0.704.705.715.723.373": 4,
     "0.704.705.715.723.719": 1,
     "0.704.705.715.723.477": 0,

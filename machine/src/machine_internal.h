@@ -77,6 +77,13 @@ struct record_book {
   std::map<long, record_fields> accounts;  // by account id (1362)
   std::map<long, record_fields> boxes;     // by box id (197)
 };
+// The default machine's job settings of every function, in both scopes, and the paper settings
+// beside them (sample data); written over the tree, after the default model file.
+void apply_job_settings(simulated_machine& machine);
+
+// The setting transaction service: registers its three commands on `machine` with no level open.
+void install_transaction_service(simulated_machine& machine);
+
 // The simulator's sample records, in the default model's file.
 record_book default_records();
 // The record services: registers their commands on `machine`, holding the sample records.

@@ -503,8 +503,10 @@ void simulated_machine::reset() {
   const std::string error = load_model_json(detail::default_model_json(), true);
   if (!error.empty())
     throw std::logic_error("default model: " + error);
+  detail::apply_job_settings(*this);
   detail::install_lock_service(*this);
   detail::install_record_services(*this);
+  detail::install_transaction_service(*this);
 }
 
 std::string simulated_machine::load_model_json(const std::string& text, bool replace) {
