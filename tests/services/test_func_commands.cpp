@@ -226,6 +226,7 @@ TEST_F(FuncCommands, PaperWeightIsLeftAloneWhenNothingCanBeRead) {
   EXPECT_TRUE(traced("can not get paper weight ret_code = 3")) << trace_dump();
 
   // A custom row that the table lacks.
+  machine().remove_node("0.230.49.382.401.402");
   machine().set_int("0.230.49.382.401.402.0.384", 5);
   EXPECT_EQ(-1, Func(1).get_paper_weight(22, weight));
   EXPECT_EQ(-7, weight);
