@@ -13,25 +13,6 @@ dvc_pnl_ceh_contents_hdl_func* dvc_pnl_ceh_contents_hdl_func::s_instance_ = null
 
 namespace {
 
-// Element 2 of the setting keys of each function that has a settings tree.
-unsigned long function_node_of(int function) {
-  switch (function) {
-    case 1:
-    case 24:
-      return 2;
-    case 3:
-      return 161;
-    case 4:
-      return 206;
-    case 6:
-      return 207;
-    case 7:
-      return 214;
-    default:
-      return DVC_PNL_CEH_FUNC_NODE_NONE;
-  }
-}
-
 // The tree of the getters that fall back to copy instead of having no tree: `with_fax` and
 // `with_box_print` say whether the fax and box print trees take part.
 unsigned long tree_with_fallback(int function, bool with_fax, bool with_box_print) {
@@ -171,7 +152,7 @@ dvc_pnl_ceh_contents_hdl_func* dvc_pnl_ceh_contents_hdl_func::dvc_pnl_ceh_get_in
 
 void dvc_pnl_ceh_contents_hdl_func::registe_current_function(int function) {
   function_id_ = function;
-  function_node_ = function_node_of(function);
+  function_node_ = dvc_pnl_ceh_contents_hdl_settings_node_of(function);
 }
 
 void dvc_pnl_ceh_contents_hdl_func::reset_for_tests() {

@@ -42,8 +42,6 @@ using ENV_GROUND_COLOR_VAL = int;
 using ENV_REP_CONF_VAL = int;
 using ENV_CONTRAST_MODE_VAL = int;
 
-// Element 2 of a setting key when the function has no settings tree: every read fails.
-inline constexpr unsigned long DVC_PNL_CEH_FUNC_NODE_NONE = static_cast<unsigned long>(-1);
 // Element 3 of a setting key: the current or the default value.
 inline constexpr unsigned long DVC_PNL_CEH_FUNC_SCOPE_CURRENT = 160;
 inline constexpr unsigned long DVC_PNL_CEH_FUNC_SCOPE_DEFAULT = 3;

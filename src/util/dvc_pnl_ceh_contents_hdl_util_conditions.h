@@ -30,6 +30,12 @@ using ENV_TIMEZ_VAL = int;
 // A setting item: the row of the prohibition table of a function.
 using DVC_PNL_CMN_ENUM_SETTING_ITEM_ID = unsigned;
 
+// Element 2 of the job settings keys of a function: 2 copy (1, 24), 161 send (3), 206 fax (4),
+// 207 box print (6), 214 box store (7); DVC_PNL_CEH_FUNC_NODE_NONE for a function without a
+// settings tree.
+inline constexpr unsigned long DVC_PNL_CEH_FUNC_NODE_NONE = static_cast<unsigned long>(-1);
+unsigned long dvc_pnl_ceh_contents_hdl_settings_node_of(int function);
+
 // Users with a meaning of their own.
 inline constexpr long DVC_PNL_CEH_USER_NONE = -1;     // nobody logged in
 inline constexpr long DVC_PNL_CEH_USER_GUEST = 9001;  // the guest

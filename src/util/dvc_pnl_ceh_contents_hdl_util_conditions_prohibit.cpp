@@ -19,33 +19,28 @@ using conditions::path;
 
 // ---------------------------------------------------------------- setting value masks
 
-namespace {
-
-// The job settings node of a function: copy (1, 24), fax (3), fax server (4), box (6), send (7).
-unsigned long settings_node(int function) {
+unsigned long dvc_pnl_ceh_contents_hdl_settings_node_of(int function) {
   switch (function) {
     case 1:
     case 24:
-      return 2;
+      return 2;  // copy
     case 3:
-      return 161;
+      return 161;  // send
     case 4:
-      return 206;
+      return 206;  // fax
     case 6:
-      return 207;
+      return 207;  // box print
     case 7:
-      return 214;
+      return 214;  // box store
     default:
-      return 0;
+      return DVC_PNL_CEH_FUNC_NODE_NONE;
   }
 }
 
-}  // namespace
-
 int dvc_pnl_ceh_contents_hdl_get_prohibit_value(int function, DVC_PNL_CMN_ENUM_SETTING_ITEM_ID item,
                                                 long& value) {
-  const unsigned long settings = function >= 1 && function <= 24 ? settings_node(function) : 0;
-  if (settings == 0)
+  const unsigned long settings = dvc_pnl_ceh_contents_hdl_settings_node_of(function);
+  if (settings == DVC_PNL_CEH_FUNC_NODE_NONE)
     return DVC_PNL_CEH_RET_OK;
   const path table = {0, 223, 224, settings};
   dvc_pnl_cmm_valueset row;
@@ -120,7 +115,7 @@ unsigned long replaced_settings_node(int function) {
     case 4:
     case 6:
     case 7:
-      return settings_node(function);
+      return dvc_pnl_ceh_contents_hdl_settings_node_of(function);
     default:
       return 0;
   }
