@@ -240,6 +240,20 @@ enum EDIT_STRUCT_TYPE : int {
   EDIT_STRUCT_TYPE_USER_LOGIN = 4,        // USER_LOGIN, DVC_PNL_PDM_DVC_CEH_BINARY
 };
 
+// What a login page needs to know in DVC_PNL_PDM_CEH_AUTHENTICATION_INFO (function scope): why
+// it opened, where to go once the user is logged in, and where to go when the login is refused.
+// 80 bytes.
+inline constexpr std::size_t DVC_PNL_CEH_AUTHENTICATION_USER_SIZE = 64;
+struct DVC_PNL_CEH_AUTHENTICATION_INFO {
+  std::int32_t kind;  // 1 panel lock or job owner, 2 job owner, 3 a function the guest may not use
+  std::int32_t target;   // the page to open after the login
+  std::int32_t refused;  // the page to open when the login is refused
+  char user_name[DVC_PNL_CEH_AUTHENTICATION_USER_SIZE];  // the job's user, where a job asks
+  unsigned char reserved[4];                             // up to the record's size
+};
+static_assert(sizeof(DVC_PNL_CEH_AUTHENTICATION_INFO) == 80);
+inline constexpr std::int32_t DVC_PNL_CEH_AUTHENTICATION_KIND_FUNCTION = 3;
+
 // Sends the changed user to the machine (0.681.843.583, then 0.681.843.2394.2499), as the user
 // logged in. 1 when both commands succeeded, 0 otherwise (a NULL `user` included).
 int update_user_property(USER_LOGIN* user);
