@@ -22,6 +22,11 @@ const char* default_model_json() {
   // 0 user). Address book (0.938.940): 1365 entry number, 1037 name, 1561 kind (0 contact,
   // 1 group). Two user names share a prefix so the text search has more than one match.
   //
+  // Copy limit 0.230.303.304: 999. The flexible keys of the copy (0.228.2) and box print
+  // (0.228.207) home screens, two rows each by position: item 229 and its kind 2039 (2, a job
+  // setting with a label): copy shows zoom (3) and paper (14), box print collate (35) and duplex
+  // (17).
+  //
   // The domain name of network login 0.534.535.509: none. Proxy settings 0.633.2561.2568: the same
   // proxy for both protocols (2569 = 1), no server, ports or exceptions (2570 to 2574 empty).
   //
@@ -48,6 +53,15 @@ const char* default_model_json() {
     "0.230.231.2903.2904": 0,
     "0.230.231.2903.2905": 1,
     "0.230.3313.4154": "Panel simulator",
+    "0.230.303.304": 999,
+    "0.228.2.0.229": 3,
+    "0.228.2.0.2039": 2,
+    "0.228.2.1.229": 14,
+    "0.228.2.1.2039": 2,
+    "0.228.207.0.229": 35,
+    "0.228.207.0.2039": 2,
+    "0.228.207.1.229": 17,
+    "0.228.207.1.2039": 2,
 
     "0.704.705.715.723.373": 4,
     "0.704.705.715.723.719": 1,

@@ -83,6 +83,7 @@ const job_setting kJobSettings[] = {
     {"46.49.53", 4L, kPrint},     // manual tray size
     {"46.49.55", 1L, kPrint},     // manual tray media kind
     {"46.49.2382", 0L, kPrint},   // manual tray orientation
+    {"46.47", 1L, kPrint},        // copy count
     {"46.58.59.60", 0L, kPrint},  // combine
     {"46.58.59.61", 0L, kPrint},  // duplex layout
     {"46.58.59.62", 0L, kPrint},  // border line
