@@ -39,9 +39,34 @@ struct one_touch_key {
   long destination_sub_number = 0;  // kept for contacts only
 };
 
+// The numbered entries of one store: `last` of them, named in requests by `number_node`; a
+// missing entry is free.
+template <typename Entry>
+struct numbered {
+  unsigned long number_node;
+  long last;
+  std::map<long, Entry> used;
+
+  // The number the request names, when it lies in 1 to `last`.
+  std::optional<long> number(const service_call& call) const {
+    long n = 0;
+    if (!detail::request_int(call, number_node, n) || n < 1 || n > last)
+      return std::nullopt;
+    return n;
+  }
+  // The used entry the request names; nullptr for a free one or a number outside the store.
+  Entry* used_entry(const service_call& call) {
+    const std::optional<long> n = number(call);
+    if (!n)
+      return nullptr;
+    auto it = used.find(*n);
+    return it == used.end() ? nullptr : &it->second;
+  }
+};
+
 struct stores {
-  std::map<long, program> programs;  // used slots by number; a missing one is free
-  std::map<long, one_touch_key> keys;
+  numbered<program> programs{kProgramNumber, kProgramSlots, {}};
+  numbered<one_touch_key> keys{kKeyNumber, kOneTouchKeys, {}};
 };
 
 // Only the services and reset() touch them, both under the machine's lock.
@@ -55,9 +80,9 @@ stores& held() {
 // group 1. Every other slot and key is free.
 stores sample_stores() {
   stores s;
-  s.programs[1] = program{kCopyProgram, 1};
-  s.keys[1] = one_touch_key{"", kContact, 2, 3};
-  s.keys[2] = one_touch_key{"", 2, 1, 0};
+  s.programs.used[1] = program{kCopyProgram, 1};
+  s.keys.used[1] = one_touch_key{"", kContact, 2, 3};
+  s.keys.used[2] = one_touch_key{"", 2, 1, 0};
   return s;
 }
 
@@ -65,14 +90,6 @@ dvc_pnl_cmm_value integer(long v) {
   dvc_pnl_cmm_value value;
   value.dvc_pnl_cmm_set_int(v);
   return value;
-}
-
-// The number `node` of the request names, when it lies in 1 to `last`.
-std::optional<long> number_in(const service_call& call, unsigned long node, long last) {
-  long number = 0;
-  if (!detail::request_int(call, node, number) || number < 1 || number > last)
-    return std::nullopt;
-  return number;
 }
 
 std::optional<std::string> request_string(const service_call& call, unsigned long node) {
@@ -93,21 +110,11 @@ int answer(service_call& call, long result, const std::map<unsigned long, long>&
   return ret;
 }
 
-// The used program slot the request names; nullptr for a free slot or a number outside the
-// store.
-program* used_slot(const service_call& call) {
-  const std::optional<long> number = number_in(call, kProgramNumber, kProgramSlots);
-  if (!number)
-    return nullptr;
-  auto it = held().programs.find(*number);
-  return it == held().programs.end() ? nullptr : &it->second;
-}
-
 int aquire_program(simulated_machine&, service_call& call) {
-  const std::optional<long> number = number_in(call, kProgramNumber, kProgramSlots);
+  const std::optional<long> number = held().programs.number(call);
   if (!number)
     return answer(call, kStoreRefused);
-  const program* slot = used_slot(call);
+  const program* slot = held().programs.used_entry(call);
   if (slot == nullptr)
     return answer(call, kProgramQueryDone, {{kProgramKind, 0}, {kProgramState, kProgramFree}});
   return answer(call, kProgramQueryDone,
@@ -116,32 +123,37 @@ int aquire_program(simulated_machine&, service_call& call) {
 
 // Every user may call every used program.
 int confirm_program(simulated_machine&, service_call& call) {
-  if (used_slot(call) == nullptr)
+  if (held().programs.used_entry(call) == nullptr)
     return answer(call, kStoreRefused);
   return answer(call, kProgramQueryDone, {{kProgramStatus, kProgramCallAllowed}});
 }
 
 int register_program(simulated_machine&, service_call& call) {
-  const std::optional<long> number = number_in(call, kProgramNumber, kProgramSlots);
+  const std::optional<long> number = held().programs.number(call);
   program made;
   if (!number || !detail::request_int(call, kProgramKind, made.kind))
     return answer(call, kStoreRefused);
   if (made.kind == kCopyProgram && !detail::request_int(call, kProgramPreset, made.preset))
     return answer(call, kStoreRefused);
-  held().programs[*number] = made;
+  held().programs.used[*number] = made;
   return answer(call, kStoreDone);
 }
 
-int delete_program(simulated_machine&, service_call& call) {
-  const std::optional<long> number = number_in(call, kProgramNumber, kProgramSlots);
-  if (!number)
-    return answer(call, kStoreRefused);
-  held().programs.erase(*number);
-  return answer(call, kStoreDone);
+// Empties the entry the request names, used or free.
+template <typename Entry>
+service delete_from(numbered<Entry> stores::*store) {
+  return [store](simulated_machine&, service_call& call) {
+    numbered<Entry>& entries = held().*store;
+    const std::optional<long> number = entries.number(call);
+    if (!number)
+      return answer(call, kStoreRefused);
+    entries.used.erase(*number);
+    return answer(call, kStoreDone);
+  };
 }
 
 int call_program(simulated_machine&, service_call& call) {
-  const program* slot = used_slot(call);
+  const program* slot = held().programs.used_entry(call);
   if (slot == nullptr)
     return answer(call, kStoreRefused);
   if (slot->kind == kCopyProgram)
@@ -149,19 +161,10 @@ int call_program(simulated_machine&, service_call& call) {
   return answer(call, kStoreDone, {{kProgramKind, slot->kind}});
 }
 
-// The used key the request names; nullptr for a free key or a number outside the store.
-one_touch_key* used_key(const service_call& call) {
-  const std::optional<long> number = number_in(call, kKeyNumber, kOneTouchKeys);
-  if (!number)
-    return nullptr;
-  auto it = held().keys.find(*number);
-  return it == held().keys.end() ? nullptr : &it->second;
-}
-
 int aquire_one_touch_key(simulated_machine&, service_call& call) {
-  if (!number_in(call, kKeyNumber, kOneTouchKeys))
+  if (!held().keys.number(call))
     return answer(call, kStoreRefused);
-  const one_touch_key* key = used_key(call);
+  const one_touch_key* key = held().keys.used_entry(call);
   if (key == nullptr)
     return answer(call, kOneTouchKeyFree);
   std::map<unsigned long, long> fields = {{kDestinationKind, key->destination_kind},
@@ -194,26 +197,18 @@ std::optional<one_touch_key> sent_key(const service_call& call) {
 // A new key goes only to a free one, an overwrite only to a used one.
 service store_key(bool key_is_new) {
   return [key_is_new](simulated_machine&, service_call& call) {
-    const std::optional<long> number = number_in(call, kKeyNumber, kOneTouchKeys);
+    const std::optional<long> number = held().keys.number(call);
     const std::optional<one_touch_key> key = sent_key(call);
-    if (!number || !key || (used_key(call) == nullptr) != key_is_new)
+    if (!number || !key || (held().keys.used_entry(call) == nullptr) != key_is_new)
       return answer(call, kStoreRefused);
-    held().keys[*number] = *key;
+    held().keys.used[*number] = *key;
     return answer(call, kStoreDone);
   };
 }
 
-int delete_one_touch_key(simulated_machine&, service_call& call) {
-  const std::optional<long> number = number_in(call, kKeyNumber, kOneTouchKeys);
-  if (!number)
-    return answer(call, kStoreRefused);
-  held().keys.erase(*number);
-  return answer(call, kStoreDone);
-}
-
 // The job's destinations are not simulated: a used key is accepted, any other refused.
 int call_one_touch_key(simulated_machine&, service_call& call) {
-  return answer(call, used_key(call) == nullptr ? kStoreRefused : kStoreDone);
+  return answer(call, held().keys.used_entry(call) == nullptr ? kStoreRefused : kStoreDone);
 }
 
 }  // namespace
@@ -225,12 +220,12 @@ void install_program_services(simulated_machine& machine) {
   machine.register_service("0.865.584", aquire_program);
   machine.register_service("0.865.2074", confirm_program);
   machine.register_service("0.865.351", register_program);
-  machine.register_service("0.865.862", delete_program);
+  machine.register_service("0.865.862", delete_from(&stores::programs));
   machine.register_service("0.865.919", call_program);
   machine.register_service("0.503.990.584", aquire_one_touch_key);
   machine.register_service("0.503.990.351", store_key(true));
   machine.register_service("0.503.990.583", store_key(false));
-  machine.register_service("0.503.990.862", delete_one_touch_key);
+  machine.register_service("0.503.990.862", delete_from(&stores::keys));
   machine.register_service("0.896.351.2033", call_one_touch_key);
 }
 
