@@ -183,8 +183,10 @@ TEST_F(Programs, TheNameOfAKeyGoesOutAsTheRecordHoldsIt) {
   ONE_TOUCH_KEY_DETAIL detail = key_detail(3, 1, 2, 1, 0);
   std::memcpy(detail.name, "ABCD", sizeof detail.name);  // full, without terminator
   EXPECT_EQ(0, OneTouch().register_one_touch_key(detail));
+  const std::vector<call_record> made = invokes();
+  ASSERT_EQ(1u, made.size());
   const char* name = nullptr;
-  ASSERT_EQ(0, invokes().at(0).request.dvc_pnl_cmm_get_string(key_of("0.503.990.351.1489"), name));
+  ASSERT_EQ(0, made[0].request.dvc_pnl_cmm_get_string(key_of("0.503.990.351.1489"), name));
   EXPECT_STREQ("ABCD", name);
 }
 
