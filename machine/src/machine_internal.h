@@ -88,5 +88,8 @@ void install_transaction_service(simulated_machine& machine);
 record_book default_records();
 // The record services: registers their commands on `machine`, holding the sample records.
 void install_record_services(simulated_machine& machine);
+// The program and one touch key stores: registers their commands on `machine`, holding the
+// sample programs and keys.
+void install_program_services(simulated_machine& machine);
 
 }  // namespace orvanta::machine::detail

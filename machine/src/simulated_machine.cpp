@@ -506,6 +506,7 @@ void simulated_machine::reset() {
   detail::apply_job_settings(*this);
   detail::install_lock_service(*this);
   detail::install_record_services(*this);
+  detail::install_program_services(*this);
   detail::install_transaction_service(*this);
 }
 
