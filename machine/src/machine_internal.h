@@ -89,4 +89,7 @@ record_book default_records();
 // The record services: registers their commands on `machine`, holding the sample records.
 void install_record_services(simulated_machine& machine);
 
+// The main message lists of every function (sample data), served as lists on their commands.
+void install_main_messages(simulated_machine& machine);
+
 }  // namespace orvanta::machine::detail

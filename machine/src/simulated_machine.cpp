@@ -507,6 +507,7 @@ void simulated_machine::reset() {
   detail::install_lock_service(*this);
   detail::install_record_services(*this);
   detail::install_transaction_service(*this);
+  detail::install_main_messages(*this);
 }
 
 std::string simulated_machine::load_model_json(const std::string& text, bool replace) {
