@@ -92,4 +92,7 @@ void install_record_services(simulated_machine& machine);
 // sample programs and keys.
 void install_program_services(simulated_machine& machine);
 
+// The main message lists of every function (sample data), served as lists on their commands.
+void install_main_messages(simulated_machine& machine);
+
 }  // namespace orvanta::machine::detail

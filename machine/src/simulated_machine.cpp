@@ -508,6 +508,7 @@ void simulated_machine::reset() {
   detail::install_record_services(*this);
   detail::install_program_services(*this);
   detail::install_transaction_service(*this);
+  detail::install_main_messages(*this);
 }
 
 std::string simulated_machine::load_model_json(const std::string& text, bool replace) {
