@@ -8,6 +8,7 @@
 
 #include "orvanta/platform/dvc_pnl_cmm_command_mediator.h"
 #include "util/dvc_pnl_ceh_contents_hdl_util.h"
+#include "util/dvc_pnl_ceh_contents_hdl_util_conditions_internal.h"
 #include "util/dvc_pnl_ceh_trace.h"
 
 namespace orvanta {
@@ -210,16 +211,12 @@ constexpr bool is_paper_message(long id) {
 
 // ---- paper of a feeder ----
 
-// 0.704.705.715.<feeder node>: the paper in each feeder, 0 the manual tray, 1 to 5 cassettes.
-constexpr unsigned long kFeederNodes[] = {723, 372, 375, 376, 377, 3049};
-constexpr unsigned long kFeederSize = 373;
-constexpr unsigned long kFeederKind = 719;
 constexpr long kLastFeeder = 5;
 
+// The paper leaf of a feeder; `value` keeps its value when the read fails.
 int read_feeder(WSC_VAL_FEEDER feeder, unsigned long leaf, long& value) {
-  const unsigned long node[] = {0, 704, 705, 715, kFeederNodes[feeder], leaf};
   long read = 0;
-  const int ret = dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm(node, 0, 6, read);
+  const int ret = conditions::read_feeder(feeder, leaf, read);
   if (ret == DVC_PNL_CEH_RET_OK)
     value = read;
   return ret;
@@ -426,12 +423,12 @@ int dvc_pnl_ceh_contents_hdl_fd_msg::get_paper_information(long& kind, long& siz
                                                            WSC_VAL_FEEDER feeder) {
   if (feeder < 0 || feeder > kLastFeeder)
     return 0;
-  int ret = read_feeder(feeder, kFeederSize, size);
+  int ret = read_feeder(feeder, conditions::kFeederSize, size);
   if (ret != DVC_PNL_CEH_RET_OK) {
     CEH_ERR("can not get cst paper size ret_code = %d", ret);
     return 0;
   }
-  ret = read_feeder(feeder, kFeederKind, kind);
+  ret = read_feeder(feeder, conditions::kFeederKind, kind);
   if (ret != DVC_PNL_CEH_RET_OK) {
     CEH_ERR("can not get cst paper kind ret_code = %d", ret);
     return 0;

@@ -37,6 +37,15 @@ int response_int(const path& command, unsigned long node, const dvc_pnl_cmm_valu
 int response_string(const path& command, unsigned long node, const dvc_pnl_cmm_valueset& response,
                     std::string& value);
 
+// Leaves of the paper in a feeder (0 the manual tray, 1 to 5 the cassettes).
+inline constexpr unsigned long kFeederSize = 373;
+inline constexpr unsigned long kFeederKind = 719;
+inline constexpr unsigned long kFeederQuantity = 477;
+inline constexpr unsigned long kFeederOrientation = 718;
+// Reads leaf `leaf` of the paper in `feeder`; a feeder outside 0 to 5 is refused with 6. `value`
+// is 0 when the read fails.
+int read_feeder(long feeder, unsigned long leaf, long& value);
+
 // The user record command, asked for the guest (1012 = 9001, 1365 = the guest's user number 102).
 extern const path kUserRecord;
 int guest_user_record(dvc_pnl_cmm_valueset& response);

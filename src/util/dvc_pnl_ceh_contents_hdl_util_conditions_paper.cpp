@@ -1,5 +1,6 @@
 // Condition queries about paper: text resources of sizes and kinds, the cassettes and their
 // paper, weight ranges, colour documents and originals on the document processor.
+#include <iterator>
 #include <map>
 
 #include "util/dvc_pnl_ceh_contents_hdl_util_cmm.h"
@@ -131,6 +132,26 @@ long dvc_pnl_ceh_contents_hdl_get_paper_orientation_from_msg_label(long label) {
 
 // ---------------------------------------------------------------- cassettes
 
+namespace conditions {
+
+int read_feeder(long feeder, unsigned long leaf, long& value) {
+  // Paper nodes of the feeders: 0.704.705.715.<feeder node>.<leaf>, for feeders 0 to 5.
+  constexpr unsigned long kFeederNodes[] = {723, 372, 375, 376, 377, 3049};
+  if (feeder < 0 || feeder >= static_cast<long>(std::size(kFeederNodes)))
+    return DVC_PNL_CEH_RET_BAD_ARGUMENT;
+  const path node = {0, 704, 705, 715, kFeederNodes[feeder], leaf};
+  return dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm(node.data(), 0,
+                                                       static_cast<unsigned>(node.size()), value);
+}
+
+}  // namespace conditions
+
+using conditions::kFeederKind;
+using conditions::kFeederOrientation;
+using conditions::kFeederQuantity;
+using conditions::kFeederSize;
+using conditions::read_feeder;
+
 namespace {
 
 // The paper source settings of a function's job settings lie in the group 0.1.F.160.46.49,
@@ -148,22 +169,7 @@ path source_setting(int function, unsigned long leaf) {
   return {0, 1, settings, 160, 46, 49, leaf};
 }
 
-// Paper nodes of the feeders: 0.704.705.715.<feeder node>.<leaf>, for feeders 0 to 5.
-constexpr unsigned long kFeederNodes[] = {723, 372, 375, 376, 377, 3049};
-constexpr unsigned long kFeederSize = 373;
-constexpr unsigned long kFeederKind = 719;
-constexpr unsigned long kFeederQuantity = 477;
-constexpr unsigned long kFeederOrientation = 718;
 constexpr long kLastFeeder = 5;
-
-// Reads a leaf of the paper in `cassette`; a cassette without a feeder node is refused with 6.
-int read_feeder(long cassette, unsigned long leaf, long& value) {
-  if (cassette < 0 || cassette > kLastFeeder)
-    return DVC_PNL_CEH_RET_BAD_ARGUMENT;
-  const path node = {0, 704, 705, 715, kFeederNodes[cassette], leaf};
-  return dvc_pnl_ceh_contents_hdl_get_int_from_pnl_cmm(node.data(), 0,
-                                                       static_cast<unsigned>(node.size()), value);
-}
 
 int read_source(int function, unsigned long leaf, long& value) {
   const path node = source_setting(function, leaf);
