@@ -98,17 +98,26 @@ constexpr layout_part kEntryAddress[] = {
     FLEXIBLE_KEYS,
 };
 
-// Home screens: the main message, the count, original and paper, and the state icons.
+// Home screens: the main message (one line, or paper size and kind side by side), the fixed
+// texts and the count, original and paper with its quantity, the state icons and the values of the
+// two flexible key settings. The send screens' texts 14 and 15 share the places of the values,
+// which the copy screens show; a screen fills only one of each pair.
 constexpr layout_part kHome[] = {
     {67, K::text, 0, 0, kWide, kLine},
-    {116, K::icon, 0, kBody, 12, kLine},
-    {18, K::text, 14, kBody, 76, kLine},
+    {117, K::text, 0, 0, 64, kLine},
+    {118, K::text, 64, 0, 64, kLine},
+    {116, K::text, 0, kBody, 40, kLine},
+    {18, K::text, 40, kBody, 52, kLine},
     {12, K::number, 92, kBody, 36, kLine},
-    {79, K::text, 0, kBody + kLine, 64, kLine},
-    {83, K::text, 64, kBody + kLine, 64, kLine},
+    {79, K::text, 0, kBody + kLine, 58, kLine},
+    {85, K::text, 58, kBody + kLine, 58, kLine},
+    {83, K::text, 58, kBody + kLine, 58, kLine},
+    {11, K::icon, 116, kBody + kLine, 12, kLine},
     {21, K::icon, 0, kBody + 2 * kLine, 12, kLine},
     {43, K::icon, 12, kBody + 2 * kLine, 12, kLine},
-    {14, K::text, 26, kBody + 2 * kLine, 50, kLine},
+    {103, K::text, 24, kBody + 2 * kLine, 52, kLine},
+    {107, K::text, 76, kBody + 2 * kLine, 52, kLine},
+    {14, K::text, 24, kBody + 2 * kLine, 52, kLine},
     {15, K::text, 76, kBody + 2 * kLine, 52, kLine},
     FLEXIBLE_KEYS,
 };
