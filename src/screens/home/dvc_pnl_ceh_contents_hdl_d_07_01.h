@@ -59,7 +59,6 @@ class dvc_pnl_ceh_contents_hdl_d_07_01 : public dvc_pnl_ceh_contents_hdl_base {
   int view_func_;
   int original_func_;
   int active_ = 0;
-  int dp_update_pending_ = 0;
 };
 
 }  // namespace orvanta

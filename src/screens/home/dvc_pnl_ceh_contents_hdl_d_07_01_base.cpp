@@ -112,7 +112,6 @@ void dvc_pnl_ceh_contents_hdl_d_07_01::on_load_01_01_n1() {
   dvc_pnl_ceh_contents_hdl_init_transaction_times(view_func_);
   dvc_pnl_ceh_contents_hdl_set_maintenance_mode_login_flag(1);
   set_timer(kTimerSubscribe, 0);
-  dp_update_pending_ = 0;
   draw();
 }
 
@@ -125,7 +124,6 @@ void dvc_pnl_ceh_contents_hdl_d_07_01::on_load_01_02_03_n1() {
   get_copy_count();
   dvc_pnl_ceh_contents_hdl_init_transaction_times(view_func_);
   set_timer(kTimerSubscribe, 0);
-  dp_update_pending_ = 0;
   draw();
 }
 
@@ -257,7 +255,6 @@ void dvc_pnl_ceh_contents_hdl_d_07_01::on_active_common() {
   store_copy_count();
   dvc_pnl_ceh_contents_hdl_register_event(kEventOriginalStatus);
   dvc_pnl_ceh_contents_hdl_init_transaction_times(view_func_);
-  dp_update_pending_ = 0;
   draw();
 }
 
