@@ -23,6 +23,15 @@ std::string to_dotted(const path& p);
 // Builds `out` from `p`; answers the first failing append's code.
 int make_key(const path& p, dvc_pnl_cmm_key& out);
 
+// Puts `value` (or the set `inner`) under `p` into `set`; answers the value layer's code.
+int put_value(dvc_pnl_cmm_valueset& set, const path& p, const dvc_pnl_cmm_value& value);
+int put_set(dvc_pnl_cmm_valueset& set, const path& p, const dvc_pnl_cmm_valueset& inner);
+// Builds `out` from leaves at full paths, nested as the machine nests its answers and events: a
+// path longer than `top` nodes lies in a set under each of its prefixes from `top` nodes on.
+// Answers kBadValue for a path shorter than `top`, else the value layer's first failing code.
+int nested_set(const std::vector<std::pair<path, dvc_pnl_cmm_value>>& leaves, std::size_t top,
+               dvc_pnl_cmm_valueset& out);
+
 // The integer `node` right below the command in the request; false when the request lacks it.
 bool request_int(const service_call& call, unsigned long node, long& out);
 // Puts `value` at `node` right below the command into the response; answers the value layer's
@@ -94,5 +103,11 @@ void install_program_services(simulated_machine& machine);
 
 // The main message lists of every function (sample data), served as lists on their commands.
 void install_main_messages(simulated_machine& machine);
+
+// The verdicts on written job settings: starts with no conflicts.
+void install_setting_verdicts(simulated_machine& machine);
+// After a write at `written` (a full path) that the tree took: posts the verdict event of the
+// function whose current job settings lie at or above it.
+void after_setting_write(simulated_machine& machine, const path& written);
 
 }  // namespace orvanta::machine::detail

@@ -32,23 +32,6 @@ const message_function* find_function(int function) {
   return nullptr;
 }
 
-// Puts `value` under `p` into `set`; answers the value layer's code.
-int put(dvc_pnl_cmm_valueset& set, const detail::path& p, const dvc_pnl_cmm_value& value) {
-  dvc_pnl_cmm_key key;
-  int ret = detail::make_key(p, key);
-  if (ret == 0)
-    ret = set.dvc_pnl_cmm_set_value(key, value);
-  return ret;
-}
-
-int put_set(dvc_pnl_cmm_valueset& set, const detail::path& p, const dvc_pnl_cmm_valueset& inner) {
-  dvc_pnl_cmm_value value;
-  int ret = value.dvc_pnl_cmm_set_valueset(inner);
-  if (ret == 0)
-    ret = put(set, p, value);
-  return ret;
-}
-
 // The source value set of the refresh event, nested as the machine nests its answers: 0.<group>
 // holding 1059 and 1060, 1060 holding one set per message, each holding its fields.
 int event_source(unsigned long group, const std::vector<list_row>& messages,
@@ -61,21 +44,21 @@ int event_source(unsigned long group, const std::vector<list_row>& messages,
     for (const auto& [field, value] : messages[i].fields) {
       detail::path field_path = element_path;
       field_path.push_back(field);
-      if (int ret = put(element, field_path, value); ret != 0)
+      if (int ret = detail::put_value(element, field_path, value); ret != 0)
         return ret;
     }
-    if (int ret = put_set(list, element_path, element); ret != 0)
+    if (int ret = detail::put_set(list, element_path, element); ret != 0)
       return ret;
   }
   dvc_pnl_cmm_value count;
   dvc_pnl_cmm_valueset group_set;
   int ret = count.dvc_pnl_cmm_set_int(static_cast<long>(messages.size()));
   if (ret == 0)
-    ret = put(group_set, {0, group, kEventCount}, count);
+    ret = detail::put_value(group_set, {0, group, kEventCount}, count);
   if (ret == 0)
-    ret = put_set(group_set, {0, group, kEventList}, list);
+    ret = detail::put_set(group_set, {0, group, kEventList}, list);
   if (ret == 0)
-    ret = put_set(source, base, group_set);
+    ret = detail::put_set(source, base, group_set);
   return ret;
 }
 

@@ -2,6 +2,7 @@
 // fixed answer fit in one response.
 #include <algorithm>
 #include <charconv>
+#include <map>
 
 #include "machine_internal.h"
 
@@ -61,6 +62,48 @@ std::string answer_overlap(const answer_data& entries) {
     }
   }
   return {};
+}
+
+int put_value(dvc_pnl_cmm_valueset& set, const path& p, const dvc_pnl_cmm_value& value) {
+  dvc_pnl_cmm_key key;
+  int ret = make_key(p, key);
+  if (ret == 0)
+    ret = set.dvc_pnl_cmm_set_value(key, value);
+  return ret;
+}
+
+int put_set(dvc_pnl_cmm_valueset& set, const path& p, const dvc_pnl_cmm_valueset& inner) {
+  dvc_pnl_cmm_value value;
+  int ret = value.dvc_pnl_cmm_set_valueset(inner);
+  if (ret == 0)
+    ret = put_value(set, p, value);
+  return ret;
+}
+
+int nested_set(const std::vector<std::pair<path, dvc_pnl_cmm_value>>& leaves, std::size_t top,
+               dvc_pnl_cmm_valueset& out) {
+  // Leaves grouped by their first `top` nodes: a leaf of that length is stored as it is, the
+  // longer ones go into one set under the prefix, one level deeper.
+  std::map<path, std::vector<std::pair<path, dvc_pnl_cmm_value>>> deeper;
+  for (const auto& [p, value] : leaves) {
+    if (p.size() < top)
+      return kBadValue;
+    const path prefix(p.begin(), p.begin() + static_cast<std::ptrdiff_t>(top));
+    if (p.size() == top) {
+      if (int ret = put_value(out, prefix, value); ret != 0)
+        return ret;
+    } else {
+      deeper[prefix].emplace_back(p, value);
+    }
+  }
+  for (const auto& [prefix, members] : deeper) {
+    dvc_pnl_cmm_valueset inner;
+    if (int ret = nested_set(members, top + 1, inner); ret != 0)
+      return ret;
+    if (int ret = put_set(out, prefix, inner); ret != 0)
+      return ret;
+  }
+  return 0;
 }
 
 }  // namespace orvanta::machine::detail

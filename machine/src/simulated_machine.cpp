@@ -322,7 +322,10 @@ int simulated_machine::dvc_pnl_cmm_set_value(const dvc_pnl_cmm_key& key,
       impl_->replace(path_of(key), std::move(sub));
   }
   impl_->log.push_back(std::move(rec));
-  return impl_->log.back().result;
+  const int result = impl_->log.back().result;
+  if (result == 0)
+    detail::after_setting_write(*this, path_of(key));
+  return result;
 }
 
 int simulated_machine::dvc_pnl_cmm_invoke(const dvc_pnl_cmm_key& command,
@@ -509,6 +512,7 @@ void simulated_machine::reset() {
   detail::install_program_services(*this);
   detail::install_transaction_service(*this);
   detail::install_main_messages(*this);
+  detail::install_setting_verdicts(*this);
 }
 
 std::string simulated_machine::load_model_json(const std::string& text, bool replace) {

@@ -9,6 +9,7 @@
 #include "contents/dvc_pnl_ceh_event_proxy.h"
 #include "orvanta/host/dm_key_registry.h"
 #include "orvanta/host/host_data_manager.h"
+#include "orvanta/machine/setting_verdicts.h"
 #include "orvanta/machine/simulated_machine.h"
 #include "orvanta/sim/names.h"
 
@@ -194,6 +195,21 @@ void scenario_run::machine_command(const std::vector<std::string>& t) {
     if (t.size() > 5)
       throw scenario_error("usage: machine fail <get|set|invoke> <path> [<code>]");
     m.fail_next(kind, path, code);
+    return;
+  }
+  if (t.size() >= 2 && t[1] == "conflict") {
+    if (t.size() != 6)
+      throw scenario_error("usage: machine conflict <setting path> <value> <changed path> <value>");
+    machine::setting_conflict conflict;
+    conflict.setting = dotted(parse_path(t[2]));
+    conflict.value = parse_int(t[3], "value");
+    conflict.changed = t[4];
+    conflict.change_value = parse_int(t[5], "value");
+    try {
+      machine::add_setting_conflict(m, conflict);
+    } catch (const std::invalid_argument& e) {
+      throw scenario_error(e.what());
+    }
     return;
   }
   if (t.size() != 4 || t[2] != "=")
