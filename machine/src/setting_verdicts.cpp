@@ -122,7 +122,8 @@ void after_setting_write(simulated_machine& machine, const path& written) {
     leaves.emplace_back(std::move(at), std::move(value));
   }
   dvc_pnl_cmm_valueset source;
-  if (!leaves.empty() && nested_set(leaves, 2, source) != 0)
+  // The panel reads the change groups from the set of 0.E.1255 at the top.
+  if (!leaves.empty() && nested_set(leaves, 3, source) != 0)
     return;
   dvc_pnl_evh_panel_event event(f->event);
   if (event.dvc_pnl_evh_set_event_source_valueset(source) != 0)

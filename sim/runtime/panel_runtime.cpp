@@ -139,6 +139,16 @@ bool panel_runtime::open(int id) {
   return false;
 }
 
+bool panel_runtime::close(int id) {
+  std::lock_guard<std::recursive_mutex> guard(lock_);
+  auto* factory = dvc_pnl_ceh_contents_proc_factory::dvc_pnl_ceh_get_instance();
+  CONTENTS_OPEN_INFO info{factory->dvc_pnl_ceh_get_contents_class_group(id), active_function(),
+                          factory->dvc_pnl_ceh_get_contents_class_state(id), id};
+  const int ret = proxy()->dvc_pnl_ceh_close_contents(info);
+  drain();
+  return ret != -1;
+}
+
 int panel_runtime::press(int key, bool remote) {
   std::lock_guard<std::recursive_mutex> guard(lock_);
   dvc_pnl_evh_panel_event event(key);

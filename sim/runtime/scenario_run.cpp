@@ -141,6 +141,12 @@ void scenario_run::execute(const std::vector<std::string>& t, const std::string&
     const int id = parse_id(t[1]);
     mark_input();
     rt_.open(id);
+  } else if (cmd == "close") {
+    need(t, 2, "close <ID>");
+    const int id = parse_id(t[1]);
+    mark_input();
+    if (!rt_.close(id))
+      throw scenario_error("no page " + t[1] + " is open");
   } else if (cmd == "key") {
     need(t, 2, "key <K> [remote]");
     const int key = parse_key_token(t[1]);

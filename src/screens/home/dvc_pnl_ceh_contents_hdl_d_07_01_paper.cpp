@@ -40,12 +40,16 @@ constexpr unsigned long kManualTrayEventKeys[] = {1113, 1114, 1115};
 // PLACEHOLDER layouts the machine's data does not give: the node of the cassette and of its state
 // in the source set of the paper events (148, 149, 152), the node of the detected original size
 // in the original status (DVC_PNL_PDM_ORIGINAL_STATUS_UPDATE, group 1210), and the quantity icons
-// by quantity level (0 empty to 3 full). An event whose cassette node is -1 tells that the machine
+// by the sheets left (empty, low, half, full). An event whose cassette node is -1 tells that the machine
 // chooses the paper itself. Replace them here, and only here.
+struct quantity_icon {
+  long from;  // sheets
+  int icon;
+};
 constexpr unsigned long kEventNodeCassette = 129;
 constexpr unsigned long kEventNodeState = 2039;
 constexpr unsigned long kStatusNodeDetectedSize = 1213;
-constexpr int kQuantityIcons[] = {140, 141, 142, 143};
+constexpr quantity_icon kQuantityIcons[] = {{250, 143}, {100, 142}, {1, 141}, {0, 140}};
 
 const dvc_pnl_ceh_contents_hdl_gui* view_of(dvc_pnl_ceh_contents_base& screen) {
   return dvc_pnl_ceh_contents_hdl_gui::dvc_pnl_ceh_register_gui_operator(
@@ -162,10 +166,11 @@ void dvc_pnl_ceh_contents_hdl_d_07_01::get_specify_cassette_info_from_cmm(long c
 }
 
 int dvc_pnl_ceh_contents_hdl_d_07_01::get_cassette_quantity_resource_id(long quantity) {
-  const long last = static_cast<long>(std::size(kQuantityIcons)) - 1;
-  if (quantity < 0)
-    return kNoIcon;
-  return kQuantityIcons[quantity > last ? last : quantity];
+  for (const quantity_icon& level : kQuantityIcons) {
+    if (quantity >= level.from)
+      return level.icon;
+  }
+  return kNoIcon;
 }
 
 void dvc_pnl_ceh_contents_hdl_d_07_01::show_paper_quantity(long cassette, long quantity) {

@@ -56,6 +56,9 @@ class panel_runtime : private host::page_listener {
   // Opens `id` in the shown function as the framework opens a page: group and state from the
   // factory's classifiers, order as the proxy places it. True when a page of that id opened.
   bool open(int id);
+  // Closes the page `id` of the shown function as the framework closes a page that went away:
+  // the page below it becomes active again. False when no page of that id is open.
+  bool close(int id);
   // A key press through the proxy's key entry; `remote` puts operation source 2 under (0, 4165),
   // else 1. Answers the proxy (0 consumed).
   int press(int key, bool remote = false);
