@@ -47,16 +47,16 @@ class dvc_pnl_ceh_screen_table {
 };
 
 // Calls a member slot of `self` that may be empty; an empty slot does nothing.
-template <class C, class... A>
-void dvc_pnl_ceh_call_slot(C* self, void (C::*slot)(A...), A... args) {
+template <class C, class... P, class... A>
+void dvc_pnl_ceh_call_slot(C* self, void (C::*slot)(P...), A&&... args) {
   if (slot != nullptr)
-    (self->*slot)(args...);
+    (self->*slot)(std::forward<A>(args)...);
 }
 
 // Calls a member slot that answers whether it consumed the input; an empty slot consumes nothing.
-template <class C, class... A>
-int dvc_pnl_ceh_call_slot(C* self, int (C::*slot)(A...), A... args) {
-  return slot != nullptr ? (self->*slot)(args...) : 0;
+template <class C, class... P, class... A>
+int dvc_pnl_ceh_call_slot(C* self, int (C::*slot)(P...), A&&... args) {
+  return slot != nullptr ? (self->*slot)(std::forward<A>(args)...) : 0;
 }
 
 // Key members of a class by the key's event id.

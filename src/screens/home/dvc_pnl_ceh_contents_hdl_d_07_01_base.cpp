@@ -128,15 +128,15 @@ void dvc_pnl_ceh_contents_hdl_d_07_01::dvc_pnl_ceh_on_deactivate() {
 }
 
 int dvc_pnl_ceh_contents_hdl_d_07_01::dvc_pnl_ceh_on_panel_event(dvc_pnl_evh_panel_event& event) {
-  return current_contents_ == nullptr ? 0
-                                      : dvc_pnl_ceh_call_slot<self, dvc_pnl_evh_panel_event&>(
-                                            this, current_contents_->on_panel_event_, event);
+  return current_contents_ == nullptr
+             ? 0
+             : dvc_pnl_ceh_call_slot(this, current_contents_->on_panel_event_, event);
 }
 
 int dvc_pnl_ceh_contents_hdl_d_07_01::dvc_pnl_ceh_on_key(dvc_pnl_evh_panel_event& event) {
-  return current_contents_ == nullptr ? 0
-                                      : dvc_pnl_ceh_call_slot<self, dvc_pnl_evh_panel_event&>(
-                                            this, current_contents_->on_key_, event);
+  return current_contents_ == nullptr
+             ? 0
+             : dvc_pnl_ceh_call_slot(this, current_contents_->on_key_, event);
 }
 
 int dvc_pnl_ceh_contents_hdl_d_07_01::dvc_pnl_ceh_on_gui_button_notify(DVU_PNL_GCP_NOTIFY* notify) {

@@ -40,8 +40,8 @@ constexpr unsigned long kManualTrayEventKeys[] = {1113, 1114, 1115};
 // PLACEHOLDER layouts the machine's data does not give: the node of the cassette and of its state
 // in the source set of the paper events (148, 149, 152), the node of the detected original size
 // in the original status (DVC_PNL_PDM_ORIGINAL_STATUS_UPDATE, group 1210), and the quantity icons
-// by the sheets left (empty, low, half, full). An event whose cassette node is -1 tells that the machine
-// chooses the paper itself. Replace them here, and only here.
+// by the sheets left (empty, low, half, full). An event whose cassette node is -1 tells that the
+// machine chooses the paper itself. Replace them here, and only here.
 struct quantity_icon {
   long from;  // sheets
   int icon;
