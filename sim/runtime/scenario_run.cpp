@@ -248,7 +248,8 @@ void scenario_run::reply_command(const std::vector<std::string>& t) {
 
 void scenario_run::dm_command(const std::vector<std::string>& t) {
   static constexpr const char* kUsage =
-      "dm app|func <F>|page <F> <ID>|cross <ID> <KEY> (= <value> | remove)";
+      "dm app|func <F>|page <F> <ID>|cross <ID> <KEY> (= <value> | set <path>=<value> ... | "
+      "remove)";
   need(t, 3, kUsage);
   host::host_data_manager& dm = host::host_data_manager::instance();
   std::size_t at = 2;
@@ -284,9 +285,20 @@ void scenario_run::dm_command(const std::vector<std::string>& t) {
       ret = dm.dvc_pnl_pdm_remove_by_cross_function_scope(key, id);
     }
   } else {
-    if (t.size() != at + 3 || t[at + 1] != "=")
+    dvc_pnl_cmm_value value;
+    if (t[at + 1] == "set" && t.size() > at + 2) {
+      // A value set, nested as a source set of an event is.
+      std::vector<std::pair<std::vector<unsigned long>, scenario_value>> entries;
+      for (std::size_t i = at + 2; i < t.size(); ++i) {
+        auto [path, leaf] = split_entry(t[i]);
+        entries.emplace_back(parse_path(path), parse_value(leaf));
+      }
+      value.dvc_pnl_cmm_set_valueset(build_valueset(entries, kEventSourceTopLen));
+    } else if (t.size() == at + 3 && t[at + 1] == "=") {
+      value = parse_value(t[at + 2]).to_cmm();
+    } else {
       throw scenario_error(std::string("usage: ") + kUsage);
-    const dvc_pnl_cmm_value value = parse_value(t[at + 2]).to_cmm();
+    }
     if (scope == "app") {
       ret = dm.dvc_pnl_pdm_set_by_application_scope(key, value);
     } else if (scope == "func") {
