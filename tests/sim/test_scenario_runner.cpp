@@ -250,7 +250,14 @@ TEST_F(ScenarioRunner, MalformedLinesFailTheirFileWithAClearMessage) {
       {"reply 0.938.959 1484", "expected <node>=<value>, found 1484"},
       {"dm app NO_SUCH_KEY = 1", "unknown data manager key NO_SUCH_KEY"},
       {"dm sideways DVC_PNL_PDM_FAX = 1",
-       "usage: dm app|func <F>|page <F> <ID>|cross <ID> <KEY> (= <value> | remove)"},
+       "usage: dm app|func <F>|page <F> <ID>|cross <ID> <KEY> (= <value> | set <path>=<value> ... "
+       "| "
+       "remove)"},
+      {"dm app DVC_PNL_PDM_FAX set", "usage: dm app|func"},
+      {"close CID_02_44_N1", "no page CID_02_44_N1 is open"},
+      {"machine conflict 0.1.2.3.99 1 1.2.160 1",
+       "\"0.1.2.3.99\" is not a current job setting of a function"},
+      {"machine conflict 0.1.2.160.99 1 1.2.160", "usage: machine conflict"},
       {"event 123456", "the panel is not subscribed to event 123456"},
       {"event 886 0.1=\"open", "unterminated quote"},
       {"keyboard \"ab\"", "a quoted keyboard key is one character"},
