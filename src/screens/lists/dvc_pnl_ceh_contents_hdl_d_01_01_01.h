@@ -165,6 +165,15 @@ class dvc_pnl_ceh_contents_hdl_d_01_01_01 : public dvc_pnl_ceh_contents_hdl_base
 
   // ---- the verdict ----
   int on_prohibition_event(dvc_pnl_evh_panel_event& event);
+  // While a child lies on top: the notices of this verdict join those already queued.
+  void merge_prohibition_queue(dvc_pnl_evh_panel_event& event);
+  // Polling reception switched on: its notice goes in front of the queue.
+  void queue_polling_notice();
+  // The address book of the job end report's destination, and the external book's list kept
+  // aside while it is shown.
+  void open_address_book();
+  void restore_address_book();
+  void set_int_or_trace(const std::string& key, int value);
   static int verdict_event_of(int view_function);
 
   CONTENTS_ELEMENT* current_contents_ = nullptr;

@@ -29,6 +29,9 @@ constexpr long kZoomManual = 1;
 // The colour-mode login restriction of the function login, by view function.
 constexpr long kLoginCopy = 256;
 constexpr long kLoginBoxPrint = 32;
+// The panel commands that give the Back key to the machine, local and remote.
+constexpr int kThrowBack = 79;
+constexpr int kThrowBackRemote = 163;
 
 const dvc_pnl_ceh_contents_hdl_gui* view_of(dvc_pnl_ceh_contents_base& screen) {
   return dvc_pnl_ceh_contents_hdl_gui::dvc_pnl_ceh_register_gui_operator(
@@ -348,6 +351,10 @@ int D::apply_selection(dvc_pnl_evh_panel_event& event, bool full) {
   if (start)
     return start_key(index, !full);
   buzzer(1);
+  if (contents_id_ == CID_02_29_N3 && index == 0) {
+    open_address_book();
+    return 1;
+  }
   if (expects_verdict()) {
     dvc_pnl_ceh_contents_hdl_send_panel_event_update_hardkey_lock_status(kLockAll);
     return 1;
@@ -489,12 +496,61 @@ int D::on_key_back_common(dvc_pnl_evh_panel_event& /*event*/) {
   if (current_contents_->start_transaction == 1 ||
       (contents_id_ == CID_02_26_N1 && view_func_ != 10))
     cancel();
+  if (contents_id_ == CID_08_07_01_N5) {
+    // The job status list gives the key back to the machine: the screen does not leave itself.
+    const bool remote = dvc_pnl_ceh_get_operation_source() == DVC_PNL_CEH_OPERATION_SOURCE_REMOTE;
+    dvc_pnl_ceh_contents_hdl_throw_key_event(
+        static_cast<DVU_PNL_DEC_PANEL_COMMAND>(remote ? kThrowBackRemote : kThrowBack));
+    return 1;
+  }
+  if (contents_id_ == CID_02_29_N3)
+    restore_address_book();
   if (contents_id_ == CID_02_08_01_N13)
     back_to_contents(CID_02_08_01_N1);
   else
     back_to_parent();
   buzzer(1);
   return 1;
+}
+
+void D::open_address_book() {
+  set_int_or_trace(DVC_PNL_PDM_CEH_DISP_ADDR_BOOK_CID, CID_02_29_N4);
+  dvc_pnl_ceh_contents_hdl_set_valid_address_book_setting_to_dm(view_func_);
+  int book = 0;
+  dvc_pnl_ceh_contents_hdl_get_int_from_dm(DVC_PNL_PDM_EXT_ADDR_BOOK_SERVER_NUM, book, view_func_);
+  if (book >= 1 && book <= 4) {
+    // An external book: its list is kept aside for the return.
+    dvc_pnl_cmm_valueset list;
+    if (dvc_pnl_ceh_contents_hdl_get_valueset_from_dm(DVC_PNL_PDM_EXT_ADDR_BOOK_FULL_LIST, list,
+                                                      view_func_) == DVC_PNL_CEH_RET_OK)
+      dvc_pnl_ceh_contents_hdl_set_valueset_to_dm_by_page_scope(
+          DVC_PNL_PDM_DVC_CEH_BINARY_BACKUP, view_func_,
+          static_cast<DVC_PNL_CEH_CONTENTS_ID>(contents_id_), list);
+    open_child_contents(CID_03_02_06_N2);
+  } else {
+    open_child_contents(CID_02_29_N4);
+  }
+}
+
+void D::restore_address_book() {
+  const auto self_id = static_cast<DVC_PNL_CEH_CONTENTS_ID>(contents_id_);
+  dvc_pnl_cmm_valueset list;
+  if (dvc_pnl_ceh_contents_hdl_get_valueset_from_dm_by_page_scope(
+          DVC_PNL_PDM_DVC_CEH_BINARY_BACKUP, view_func_, self_id, list) != DVC_PNL_CEH_RET_OK)
+    return;
+  dvc_pnl_ceh_contents_hdl_dm_remove(DVC_PNL_PDM_EXT_ADDR_BOOK_FULL_LIST, view_func_);
+  dvc_pnl_ceh_contents_hdl_set_valueset_to_dm(DVC_PNL_PDM_EXT_ADDR_BOOK_FULL_LIST, view_func_,
+                                              list);
+  // An empty set in the backup's place: page scope entries go with their page.
+  dvc_pnl_cmm_valueset empty;
+  dvc_pnl_ceh_contents_hdl_set_valueset_to_dm_by_page_scope(DVC_PNL_PDM_DVC_CEH_BINARY_BACKUP,
+                                                            view_func_, self_id, empty);
+}
+
+void D::set_int_or_trace(const std::string& key, int value) {
+  if (int ret = dvc_pnl_ceh_contents_hdl_set_int_to_dm(key, value, view_func_);
+      ret != DVC_PNL_CEH_RET_OK)
+    CEH_ERR("set %s ret_code = %d", key.c_str(), ret);
 }
 
 int D::on_key_stop_common(dvc_pnl_evh_panel_event& /*event*/) {
@@ -638,6 +694,71 @@ void D::on_activate_02_03_01_children() {
 
 // ---------------------------------------------------------------- the verdict
 
+namespace {
+
+int read_queue(DVC_PNL_CEH_PROHIBITION_WINDOWS& queue, int function) {
+  return dvc_pnl_ceh_contents_hdl_get_binary_from_dm(DVC_PNL_PDM_COPY_PROHIBITION_WINDOWS, &queue,
+                                                     sizeof queue, function);
+}
+int write_queue(const DVC_PNL_CEH_PROHIBITION_WINDOWS& queue, int function) {
+  return dvc_pnl_ceh_contents_hdl_set_binary_to_dm(DVC_PNL_PDM_COPY_PROHIBITION_WINDOWS, &queue,
+                                                   sizeof queue, function);
+}
+
+}  // namespace
+
+void D::merge_prohibition_queue(dvc_pnl_evh_panel_event& event) {
+  // The notices queued so far stay ahead of those this verdict adds; eight places in all.
+  DVC_PNL_CEH_PROHIBITION_WINDOWS before{};
+  const bool had = read_queue(before, view_func_) == DVC_PNL_CEH_RET_OK;
+  long cid = CID_NONE;
+  dvc_pnl_ceh_contents_hdl_get_prohibit_cid(event, cid, view_func_);
+  DVC_PNL_CEH_PROHIBITION_WINDOWS after{};
+  if (!had || read_queue(after, view_func_) != DVC_PNL_CEH_RET_OK)
+    return;
+  DVC_PNL_CEH_PROHIBITION_WINDOWS merged = after;
+  int n = 0;
+  auto take = [&merged, &n](const DVC_PNL_CEH_PROHIBITION_WINDOWS& from) {
+    for (int i = 0; i < DVC_PNL_CEH_PROHIBITION_PLACES && n < DVC_PNL_CEH_PROHIBITION_PLACES; ++i) {
+      if (from.cid[i] == CID_NONE)
+        continue;
+      merged.cid[n] = from.cid[i];
+      merged.value[n] = from.value[i];
+      std::copy(std::begin(from.items[i]), std::end(from.items[i]), merged.items[n]);
+      ++n;
+    }
+  };
+  take(before);
+  take(after);
+  for (int i = n; i < DVC_PNL_CEH_PROHIBITION_PLACES; ++i)
+    merged.cid[i] = CID_NONE;
+  merged.index = n > 0 ? 0 : -1;
+  merged.next_cid = before.next_cid;
+  if (int ret = write_queue(merged, view_func_); ret != DVC_PNL_CEH_RET_OK)
+    CEH_ERR("dvc_pnl_ceh_contents_hdl_set_binary_to_dm ret_code = %d", ret);
+}
+
+void D::queue_polling_notice() {
+  // Polling reception switched on puts its notice in front of the others.
+  long value = 0;
+  if (read_int(current_contents_->key, value) != DVC_PNL_CEH_RET_OK || value != 1)
+    return;
+  DVC_PNL_CEH_PROHIBITION_WINDOWS queue{};
+  if (read_queue(queue, view_func_) != DVC_PNL_CEH_RET_OK) {
+    for (std::int32_t& place : queue.cid)
+      place = CID_NONE;
+  }
+  for (int i = DVC_PNL_CEH_PROHIBITION_PLACES - 1; i > 0; --i) {
+    queue.cid[i] = queue.cid[i - 1];
+    queue.value[i] = queue.value[i - 1];
+  }
+  queue.cid[0] = CID_10_03_N17;
+  queue.value[0] = 0;
+  queue.index = 0;
+  if (int ret = write_queue(queue, view_func_); ret != DVC_PNL_CEH_RET_OK)
+    CEH_ERR("dvc_pnl_ceh_contents_hdl_set_binary_to_dm ret_code = %d", ret);
+}
+
 int D::verdict_event_of(int view_function) {
   switch (view_function) {
     case 1:
@@ -661,12 +782,11 @@ int D::on_prohibition_event(dvc_pnl_evh_panel_event& event) {
   if (active_ == 0) {
     // A child lies on top: only the duplex list adds the notices of this verdict to the queue.
     if (contents_id_ == CID_02_36_01_N1) {
-      long cid = CID_NONE;
-      dvc_pnl_ceh_contents_hdl_get_prohibit_cid(event, cid, view_func_);
       if (verdicts_left_ < 1)
         waiting_prohibition_ = 0;
       else
         --verdicts_left_;
+      merge_prohibition_queue(event);
     }
     return 1;
   }
@@ -676,7 +796,19 @@ int D::on_prohibition_event(dvc_pnl_evh_panel_event& event) {
   // An accepted value opens the row's child (the setting-done message); a refused one the
   // notices that the verdict names.
   long cid = index_to_childwindow(index);
+  if (contents_id_ == CID_02_37_N1) {
+    int stored = 0;
+    if (int ret = dvc_pnl_ceh_contents_hdl_get_int_from_dm(DVC_PNL_PDM_DVC_CEH_INTEGER, stored,
+                                                           view_func_);
+        ret != DVC_PNL_CEH_RET_OK) {
+      CEH_ERR("get DVC_PNL_PDM_DVC_CEH_INTEGER ret_code = %d", ret);
+      return 0;
+    }
+    cid = stored;
+  }
   dvc_pnl_ceh_contents_hdl_get_prohibit_cid(event, cid, view_func_);
+  if (contents_id_ == CID_02_39_N1)
+    queue_polling_notice();
   if (contents_id_ == CID_02_10_N1) {
     int stored = CID_NONE;
     if (dvc_pnl_ceh_contents_hdl_get_int_from_dm(DVC_PNL_PDM_DVC_CEH_INTEGER, stored, view_func_) ==
