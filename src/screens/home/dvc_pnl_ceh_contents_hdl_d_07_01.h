@@ -60,6 +60,8 @@ class dvc_pnl_ceh_contents_hdl_d_07_01 : public dvc_pnl_ceh_contents_hdl_base {
   // ---- load, lifecycle (base) ----
   void on_load_01_01_n1();
   void on_load_01_02_03_n1();
+  // What both loads do; the copy page also allows the maintenance mode login.
+  void load_home();
   void on_close_common();
   void on_timer_common(int timer_id);
   void on_active_common();

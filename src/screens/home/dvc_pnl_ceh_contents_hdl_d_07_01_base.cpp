@@ -171,40 +171,35 @@ void dvc_pnl_ceh_contents_hdl_d_07_01::update_dp_icon() {
 
 void dvc_pnl_ceh_contents_hdl_d_07_01::on_load_01_01_n1() {
   CEH_TRC("on_load_01_01_n1() function:%d.", view_func_);
-  if (dvc_pnl_ceh_get_gui_components() == nullptr) {
-    CEH_ERR("gui_component is NULL");
-    return;
-  }
-  load_fixed_parts();
-  update_function_icon();
-  messages_.load(view_func_);
-  get_copy_limit_from_cmm();
-  get_copy_count();
-  get_origin_size_from_cmm_copy();
-  show_current_paper();
-  get_flexible_key_info_from_cmm();
-  dvc_pnl_ceh_contents_hdl_init_transaction_times(view_func_);
-  dvc_pnl_ceh_contents_hdl_set_maintenance_mode_login_flag(1);
-  set_timer(kTimerSubscribe, 0);
-  dp_update_pending_ = 0;
-  draw();
+  load_home();
 }
 
 void dvc_pnl_ceh_contents_hdl_d_07_01::on_load_01_02_03_n1() {
   CEH_TRC("on_load_01_02_03_n1() function:%d.", view_func_);
+  load_home();
+}
+
+void dvc_pnl_ceh_contents_hdl_d_07_01::load_home() {
   if (dvc_pnl_ceh_get_gui_components() == nullptr) {
     CEH_ERR("gui_component is NULL");
     return;
   }
+  const bool copy = contents_id_ != CID_01_02_03_N1;
   load_fixed_parts();
   update_function_icon();
   messages_.load(view_func_);
   get_copy_limit_from_cmm();
   get_copy_count();
-  get_origin_size_from_cmm_box_print();
+  if (copy)
+    get_origin_size_from_cmm_copy();
+  else
+    get_origin_size_from_cmm_box_print();
   show_current_paper();
   get_flexible_key_info_from_cmm();
   dvc_pnl_ceh_contents_hdl_init_transaction_times(view_func_);
+  // Box print leaves the maintenance mode login as it is.
+  if (copy)
+    dvc_pnl_ceh_contents_hdl_set_maintenance_mode_login_flag(1);
   set_timer(kTimerSubscribe, 0);
   dp_update_pending_ = 0;
   draw();

@@ -147,6 +147,10 @@ class dvc_pnl_ceh_contents_hdl_d_01_01_01 : public dvc_pnl_ceh_contents_hdl_base
   void companion_writes(int index);
   // Writes the ratio of a zoom list in the manual mode.
   int write_zoom_ratio(long ratio);
+  // The row under the cursor; false (traced) when the list cannot tell.
+  bool selected_row(int& index);
+  // Enter of a list that expects the machine's verdict: every hard key held until it comes.
+  int wait_for_verdict();
   // Start on a list: commit, the star on the chosen row, draw; the key is not consumed.
   int start_key(int index, bool reactivate);
 

@@ -240,6 +240,20 @@ void D::on_load_02_03_01_N5() {
 
 // ---------------------------------------------------------------- Enter and Start
 
+bool D::selected_row(int& index) {
+  if (view_of(*this)->dvc_pnl_ceh_get_list_select_row(index) == 0)
+    return true;
+  CEH_ERR("get_list_select_row failed");
+  return false;
+}
+
+int D::wait_for_verdict() {
+  waiting_prohibition_ = 1;
+  buzzer(1);
+  dvc_pnl_ceh_contents_hdl_send_panel_event_update_hardkey_lock_status(kLockAll);
+  return 1;
+}
+
 bool D::row_permitted(int index, dvc_pnl_evh_panel_event& event) {
   if (contents_id_ == CID_02_37_N1 && view_func_ != 3 && view_func_ != 4 && view_func_ != 7)
     return true;
@@ -329,10 +343,8 @@ int D::start_key(int index, bool reactivate) {
 
 int D::apply_selection(dvc_pnl_evh_panel_event& event, bool full) {
   int index = 0;
-  if (view_of(*this)->dvc_pnl_ceh_get_list_select_row(index) != 0) {
-    CEH_ERR("get_list_select_row failed");
+  if (!selected_row(index))
     return 0;
-  }
   std::vector<unsigned long>& key = current_contents_->key;
   if (key.size() > 2)
     change_keyid_value_by_functionid(key[2]);
@@ -383,10 +395,8 @@ int D::write_zoom_ratio(long ratio) {
 
 int D::on_key_enter_02_03_01_N1(dvc_pnl_evh_panel_event& event) {
   int index = 0;
-  if (view_of(*this)->dvc_pnl_ceh_get_list_select_row(index) != 0) {
-    CEH_ERR("get_list_select_row failed");
+  if (!selected_row(index))
     return 0;
-  }
   std::vector<unsigned long>& key = current_contents_->key;
   change_keyid_value_by_functionid(key[2]);
   const bool start = is_startkey(event) == 1;
@@ -425,18 +435,13 @@ int D::on_key_enter_02_03_01_N1(dvc_pnl_evh_panel_event& event) {
   }
   if (start)
     return start_key(index, false);
-  waiting_prohibition_ = 1;
-  buzzer(1);
-  dvc_pnl_ceh_contents_hdl_send_panel_event_update_hardkey_lock_status(kLockAll);
-  return 1;
+  return wait_for_verdict();
 }
 
 int D::on_key_enter_02_03_01_N3(dvc_pnl_evh_panel_event& event) {
   int index = 0;
-  if (view_of(*this)->dvc_pnl_ceh_get_list_select_row(index) != 0) {
-    CEH_ERR("get_list_select_row failed");
+  if (!selected_row(index))
     return 0;
-  }
   change_keyid_value_by_functionid(current_contents_->key[2]);
   const bool start = is_startkey(event) == 1;
   const std::vector<LIST_ELEMENT>& list = current_contents_->list;
@@ -452,35 +457,25 @@ int D::on_key_enter_02_03_01_N3(dvc_pnl_evh_panel_event& event) {
     return 0;
   if (start)
     return start_key(index, false);
-  waiting_prohibition_ = 1;
-  buzzer(1);
-  dvc_pnl_ceh_contents_hdl_send_panel_event_update_hardkey_lock_status(kLockAll);
-  return 1;
+  return wait_for_verdict();
 }
 
 int D::on_key_enter_02_03_01_N5(dvc_pnl_evh_panel_event& event) {
   int index = 0;
-  if (view_of(*this)->dvc_pnl_ceh_get_list_select_row(index) != 0) {
-    CEH_ERR("get_list_select_row failed");
+  if (!selected_row(index))
     return 0;
-  }
   change_keyid_value_by_functionid(current_contents_->key[2]);
   if (write_zoom_ratio(index_to_value(index)) != DVC_PNL_CEH_RET_OK)
     return 0;
   if (is_startkey(event) == 1)
     return start_key(index, false);
-  waiting_prohibition_ = 1;
-  buzzer(1);
-  dvc_pnl_ceh_contents_hdl_send_panel_event_update_hardkey_lock_status(kLockAll);
-  return 1;
+  return wait_for_verdict();
 }
 
 int D::on_key_enter_02_08_01_N13(dvc_pnl_evh_panel_event& event) {
   int index = 0;
-  if (view_of(*this)->dvc_pnl_ceh_get_list_select_row(index) != 0) {
-    CEH_ERR("get_list_select_row failed");
+  if (!selected_row(index))
     return 0;
-  }
   if (is_startkey(event) == 1)
     return start_key(index, false);
   buzzer(1);
