@@ -659,12 +659,7 @@ void D::on_activate_for_star() {
 void D::on_activate_common() {
   const int saved = current_contents_->start_transaction;
   current_contents_->start_transaction = 0;
-  static constexpr int kReloaded[] = {
-      CID_02_02_N1,    CID_02_08_02_N1, CID_02_37_N1,    CID_02_08_01_N6, CID_02_08_01_N7,
-      CID_02_08_01_N8, CID_02_08_01_N5, CID_02_03_01_N1, CID_02_03_01_N3, CID_02_03_01_N6,
-      CID_02_03_01_N8, CID_02_10_N1,    CID_02_36_01_N1,
-  };
-  if (in(contents_id_, kReloaded)) {
+  if (in(contents_id_, kReloadedOnActivate)) {
     view_of(*this)->dvc_pnl_ceh_clear_list();
     dvc_pnl_ceh_call_slot(this, current_contents_->on_load_);
   }

@@ -1,6 +1,7 @@
 // The rows of dvc_pnl_ceh_contents_hdl_d_01_01_01: one per contents id, built when a page of the id
 // is first made, and the values behind the others rows.
 #include "screens/lists/dvc_pnl_ceh_contents_hdl_d_01_01_01.h"
+#include "screens/lists/dvc_pnl_ceh_contents_hdl_d_01_01_01_tables.h"
 
 #include <algorithm>
 #include <initializer_list>

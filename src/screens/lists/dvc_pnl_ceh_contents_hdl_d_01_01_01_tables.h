@@ -123,6 +123,12 @@ inline constexpr int kOwnTransactionContents[] = {
     CID_02_08_01_N6, CID_02_08_01_N7, CID_02_08_01_N8, CID_02_08_02_N1, CID_02_10_N1, CID_02_24_N1,
     CID_02_29_N1,    CID_02_36_01_N1, CID_02_37_N1,    CID_02_46_N1,    CID_02_54_N1, CID_02_63_N1,
 };
+// The lists that load again whenever they come back on top.
+inline constexpr int kReloadedOnActivate[] = {
+    CID_02_02_N1,    CID_02_08_02_N1, CID_02_37_N1,    CID_02_08_01_N6, CID_02_08_01_N7,
+    CID_02_08_01_N8, CID_02_08_01_N5, CID_02_03_01_N1, CID_02_03_01_N3, CID_02_03_01_N6,
+    CID_02_03_01_N8, CID_02_10_N1,    CID_02_36_01_N1,
+};
 // The lists whose Enter sends a guest to the function login first.
 inline constexpr int kLoginContents[] = {CID_02_06_N1, CID_02_10_N1, CID_02_25_N1, CID_02_46_N1};
 
