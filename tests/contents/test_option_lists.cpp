@@ -141,6 +141,13 @@ TEST_F(OptionLists, HelpersOfTheEngine) {
   EXPECT_EQ(CID_02_03_01_N4, zoom->index_to_childwindow(3));
   EXPECT_EQ(CID_NONE, zoom->index_to_childwindow(9));
 
+  // Only job settings keys take the view function's branch.
+  ASSERT_EQ(0, rt_.set_function(3));
+  ASSERT_TRUE(rt_.open(CID_02_11_N1));
+  EXPECT_EQ(161u, top_list()->current_contents()->key[2]);
+  ASSERT_TRUE(rt_.open(CID_09_01_02_N6));
+  EXPECT_EQ(49u, top_list()->current_contents()->key[2]);
+
   // Start positions of keys by their length.
   using K = std::vector<unsigned long>;
   EXPECT_EQ(6, dvc_pnl_ceh_option_list_get_position(K{0, 1, 2, 160, 12, 13, 15, 16}));

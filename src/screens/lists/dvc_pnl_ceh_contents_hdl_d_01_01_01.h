@@ -88,6 +88,8 @@ class dvc_pnl_ceh_contents_hdl_d_01_01_01 : public dvc_pnl_ceh_contents_hdl_base
   void get_index_from_cmm(const std::vector<unsigned long>& key, int& index);
   int set_index_to_cmm(const std::vector<unsigned long>& key, int index);
   void change_keyid_value_by_functionid(unsigned long& node);
+  // change_keyid_value_by_functionid on element 2 of a job settings key; other keys stay.
+  void adjust_key_branch(std::vector<unsigned long>& key);
   void update_form_common();
   static int on_activate_for_focus(int cid);
   static int is_startkey(const dvc_pnl_evh_panel_event& event);

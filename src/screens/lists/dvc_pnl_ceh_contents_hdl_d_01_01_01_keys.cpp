@@ -62,6 +62,12 @@ std::vector<unsigned long> zoom_ratio_key(unsigned long branch) {
 
 // ---------------------------------------------------------------- loads
 
+void D::adjust_key_branch(std::vector<unsigned long>& key) {
+  // Only the job settings (0.1.<branch>...) follow the view function.
+  if (key.size() > 2 && key[1] == 1)
+    change_keyid_value_by_functionid(key[2]);
+}
+
 bool D::read_prohibition() {
   prohibit_value_ = -1;
   for (const prohibition_item& p : kProhibitionItems) {
@@ -130,8 +136,7 @@ void D::load_plain() {
     default:
       break;
   }
-  if (key.size() > 2)
-    change_keyid_value_by_functionid(key[2]);
+  adjust_key_branch(key);
   int index = 0;
   if (!key.empty()) {
     if ((contents_id_ != CID_02_02_N1 && contents_id_ != CID_02_02_N3) ||
@@ -158,7 +163,7 @@ void D::on_load_common() {
 void D::on_load_02_03_01_N1() {
   add_list();
   std::vector<unsigned long>& key = current_contents_->key;
-  change_keyid_value_by_functionid(key[2]);
+  adjust_key_branch(key);
   long mode = 0;
   long ratio = 0;
   int row = 0;
@@ -209,7 +214,7 @@ void D::set_select_row_ex(long value) {
 void D::on_load_02_03_01_N3() {
   add_list();
   std::vector<unsigned long>& key = current_contents_->key;
-  change_keyid_value_by_functionid(key[2]);
+  adjust_key_branch(key);
   long ratio = 0;
   if (read_int(key, ratio) != DVC_PNL_CEH_RET_OK) {
     CEH_ERR("can not get zoom ratio");
@@ -224,7 +229,7 @@ void D::on_load_02_03_01_N3() {
 void D::on_load_02_03_01_N5() {
   add_list();
   std::vector<unsigned long>& key = current_contents_->key;
-  change_keyid_value_by_functionid(key[2]);
+  adjust_key_branch(key);
   long ratio = 0;
   const std::vector<LIST_ELEMENT>& list = current_contents_->list;
   const bool found = read_int(key, ratio) == DVC_PNL_CEH_RET_OK &&
@@ -346,8 +351,7 @@ int D::apply_selection(dvc_pnl_evh_panel_event& event, bool full) {
   if (!selected_row(index))
     return 0;
   std::vector<unsigned long>& key = current_contents_->key;
-  if (key.size() > 2)
-    change_keyid_value_by_functionid(key[2]);
+  adjust_key_branch(key);
   if (!row_permitted(index, event))
     return 0;
   if (function_login_opened())
@@ -398,7 +402,7 @@ int D::on_key_enter_02_03_01_N1(dvc_pnl_evh_panel_event& event) {
   if (!selected_row(index))
     return 0;
   std::vector<unsigned long>& key = current_contents_->key;
-  change_keyid_value_by_functionid(key[2]);
+  adjust_key_branch(key);
   const bool start = is_startkey(event) == 1;
   switch (index) {
     case 0:
@@ -442,7 +446,7 @@ int D::on_key_enter_02_03_01_N3(dvc_pnl_evh_panel_event& event) {
   int index = 0;
   if (!selected_row(index))
     return 0;
-  change_keyid_value_by_functionid(current_contents_->key[2]);
+  adjust_key_branch(current_contents_->key);
   const bool start = is_startkey(event) == 1;
   const std::vector<LIST_ELEMENT>& list = current_contents_->list;
   if (index == static_cast<int>(list.size()) - 1) {
@@ -464,7 +468,7 @@ int D::on_key_enter_02_03_01_N5(dvc_pnl_evh_panel_event& event) {
   int index = 0;
   if (!selected_row(index))
     return 0;
-  change_keyid_value_by_functionid(current_contents_->key[2]);
+  adjust_key_branch(current_contents_->key);
   if (write_zoom_ratio(index_to_value(index)) != DVC_PNL_CEH_RET_OK)
     return 0;
   if (is_startkey(event) == 1)
@@ -608,8 +612,7 @@ int D::on_gui_button_notify_02_10_N1(DVU_PNL_GCP_NOTIFY* notify) {
     return 1;
   }
   std::vector<unsigned long>& key = current_contents_->key;
-  if (key.size() > 2)
-    change_keyid_value_by_functionid(key[2]);
+  adjust_key_branch(key);
   if (key.empty() || set_index_to_cmm(key, index) == 0) {
     // Without the machine's verdict the detail opens at once.
     waiting_prohibition_ = 0;
