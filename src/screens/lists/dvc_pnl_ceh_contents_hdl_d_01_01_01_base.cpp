@@ -100,6 +100,10 @@ void D::dvc_pnl_ceh_on_close() {
     set_application_scope_pdm(DVC_PNL_PDM_COUNTER_WINDOW, 1);
   if (contents_id_ == CID_02_24_N1 || contents_id_ == CID_02_29_N1)
     dvc_pnl_ceh_contents_hdl_dm_remove(DVC_PNL_PDM_DVC_CEH_INTEGER, view_func_);
+  if (in(contents_id_, kDestinationEditContents)) {
+    dvc_pnl_ceh_contents_hdl_dm_remove(DVC_PNL_PDM_CEH_MOVE_TO_CONTENTS, view_func_);
+    dvc_pnl_ceh_contents_hdl_send_panel_event_update_hardkey_lock_status(kUnlock800);
+  }
   if (contents_id_ == CID_04_11_N4) {
     dvc_pnl_ceh_contents_hdl_dm_remove(DVC_PNL_PDM_DVC_CEH_SYS_COUNT_BINARY, view_func_);
     dvc_pnl_ceh_contents_hdl_dm_remove_by_application(DVC_PNL_PDM_COUNTER_WINDOW);

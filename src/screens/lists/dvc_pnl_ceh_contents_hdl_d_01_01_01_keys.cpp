@@ -32,6 +32,8 @@ constexpr long kLoginBoxPrint = 32;
 // The panel commands that give the Back key to the machine, local and remote.
 constexpr int kThrowBack = 79;
 constexpr int kThrowBackRemote = 163;
+// The user language of the input method list.
+constexpr long kInputMethodLanguage = 81;
 
 const dvc_pnl_ceh_contents_hdl_gui* view_of(dvc_pnl_ceh_contents_base& screen) {
   return dvc_pnl_ceh_contents_hdl_gui::dvc_pnl_ceh_register_gui_operator(
@@ -662,11 +664,25 @@ void D::on_activate_for_star() {
 void D::on_activate_common() {
   const int saved = current_contents_->start_transaction;
   current_contents_->start_transaction = 0;
-  if (in(contents_id_, kReloadedOnActivate)) {
+  // The counter and information pages follow a remote session with a fresh load too.
+  const bool remote_reload =
+      in(contents_id_, kReloadedInRemoteSession) && is_remote_connected() == 1;
+  if (in(contents_id_, kReloadedOnActivate) || remote_reload) {
     view_of(*this)->dvc_pnl_ceh_clear_list();
     dvc_pnl_ceh_call_slot(this, current_contents_->on_load_);
   }
+  if (contents_id_ == CID_02_22_N8) {
+    dvc_pnl_ceh_contents_hdl_send_panel_event_update_hardkey_lock_status(kLock800);
+    // The input method list serves one language only.
+    if (dvc_pnl_ceh_contents_hdl_get_user_language() != kInputMethodLanguage) {
+      current_contents_->start_transaction = saved;
+      close_contents(CID_02_22_N8);
+      return;
+    }
+  }
   current_contents_->start_transaction = saved;
+  if (in(contents_id_, kDestinationEditContents))
+    dvc_pnl_ceh_contents_hdl_send_panel_event_update_hardkey_lock_status(kLock800);
   draw();
 }
 

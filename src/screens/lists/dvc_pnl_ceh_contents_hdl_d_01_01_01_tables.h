@@ -129,6 +129,15 @@ inline constexpr int kReloadedOnActivate[] = {
     CID_02_08_01_N8, CID_02_08_01_N5, CID_02_03_01_N1, CID_02_03_01_N3, CID_02_03_01_N6,
     CID_02_03_01_N8, CID_02_10_N1,    CID_02_36_01_N1,
 };
+// The pages that load again on their return while a remote panel is connected.
+inline constexpr int kReloadedInRemoteSession[] = {
+    CID_11_04_N6, CID_11_04_N7, CID_11_04_N14, CID_11_04_N16,
+    CID_11_05_N3, CID_11_05_N4, CID_11_06_N3,  CID_11_08_N4,
+};
+// The destination edit pages: keys held with 0x80000800 while on top, released at close.
+inline constexpr int kDestinationEditContents[] = {
+    CID_03_02_07_N7, CID_03_02_07_N8, CID_03_02_07_N9, CID_03_02_07_N10, CID_03_02_07_N11,
+};
 // The lists whose Enter sends a guest to the function login first.
 inline constexpr int kLoginContents[] = {CID_02_06_N1, CID_02_10_N1, CID_02_25_N1, CID_02_46_N1};
 
