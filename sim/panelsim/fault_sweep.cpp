@@ -215,11 +215,15 @@ int run_point(panel_runtime& rt, const std::string& file, const injection* point
 }  // namespace
 
 int command_faults(const sweep_options& o, std::ostream& out) {
+  panel_runtime rt;
+  return run_faults(rt, o, out);
+}
+
+int run_faults(panel_runtime& rt, const sweep_options& o, std::ostream& out) {
   if (o.point >= 0 && o.files.size() != 1) {
     out << "faults: --point needs exactly one file\n";
     return 2;
   }
-  panel_runtime rt;
   if (std::string error = rt.reset(o.model); !error.empty()) {
     out << "faults: bad model: " << error << "\n";
     return 2;

@@ -19,7 +19,11 @@ struct sweep_options {
   bool list = false;  // print the points instead of running them
 };
 
+class panel_runtime;
+
 // Answers 0 when every injection passed, 1 when one failed, 2 on bad input.
 int command_faults(const sweep_options& options, std::ostream& out);
+// The same on a runtime the caller wired (tests plant screens of their own in it).
+int run_faults(panel_runtime& runtime, const sweep_options& options, std::ostream& out);
 
 }  // namespace orvanta::sim

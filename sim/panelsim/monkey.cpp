@@ -347,7 +347,10 @@ std::string write_scenario(const run_plan& plan, const std::vector<step>& steps,
                            const child_result& failure, const monkey_options& o) {
   std::ostringstream text;
   text << "# panelsim monkey --seed " << o.seed << " --events " << o.events << " --id "
-       << contents_name(plan.id) << "\n";
+       << contents_name(plan.id);
+  if (o.stack_bound != monkey_options{}.stack_bound)
+    text << " --stack-bound " << o.stack_bound;
+  text << "\n";
   text << "# " << failure.what() << "\n";
   text << "function " << plan.function << "\n";
   text << "open " << contents_name(plan.base) << "\n";
