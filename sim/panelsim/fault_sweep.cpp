@@ -168,8 +168,8 @@ int check_survivors(panel_runtime& rt) {
   for (unsigned long bit = 1; bit <= DVC_PNL_CMN_ENUM_HARDKEY_TYPE_MONO_COLOR_KEY; bit <<= 1) {
     const auto type = static_cast<DVC_PNL_CMN_ENUM_HARDKEY_TYPE>(bit);
     if (const unsigned n = dvc_pnl_ceh_contents_hdl_get_hardkey_lock(type); n != 0) {
-      std::cerr << "faults: hard key type 0x" << std::hex << bit << std::dec
-                << " still locked " << n << " times with every page closed\n";
+      std::cerr << "faults: hard key type 0x" << std::hex << bit << std::dec << " still locked "
+                << n << " times with every page closed\n";
       return kChildLockCount;
     }
   }

@@ -9,7 +9,7 @@ namespace orvanta::sim {
 
 // Exit codes a child uses for the checks the harness makes itself; anything else non-zero is a
 // crash or a sanitizer report.
-inline constexpr int kChildTimerLoop = 70;   // the proxy stopped a 0 ms timer loop
+inline constexpr int kChildTimerLoop = 70;    // the proxy stopped a 0 ms timer loop
 inline constexpr int kChildPostingLoop = 71;  // the runtime's drain found a posting loop
 inline constexpr int kChildStackBound = 72;   // more pages open than the bound allows
 inline constexpr int kChildLockCount = 73;    // a hard key lock count outlived its screens
@@ -18,10 +18,10 @@ inline constexpr int kChildThrew = 75;        // an exception left the body
 
 struct child_result {
   bool ok = false;
-  bool hang = false;    // the child's step watchdog fired
-  bool crash = false;   // killed by a signal, or a sanitizer's exit
-  int exit_code = 0;    // when it exited
-  int signal = 0;       // when a signal ended it
+  bool hang = false;   // the child's step watchdog fired
+  bool crash = false;  // killed by a signal, or a sanitizer's exit
+  int exit_code = 0;   // when it exited
+  int signal = 0;      // when a signal ended it
   std::string what() const;
 };
 

@@ -91,15 +91,18 @@ int main(int argc, char** argv) {
   monkey->add_option("--id", monkey_ids, "only these contents ids (default: every routed id)");
   monkey->add_option("--out", monkey_opts.out_dir,
                      "folder for the scenario files of failures (default .)");
-  monkey->add_option("--stack-bound", monkey_opts.stack_bound,
-                     "open pages that count as runaway growth (default 24)")
+  monkey
+      ->add_option("--stack-bound", monkey_opts.stack_bound,
+                   "open pages that count as runaway growth (default 24)")
       ->check(CLI::Range(1, 100000));
-  monkey->add_option("--hang-seconds", monkey_opts.hang_seconds,
-                     "a step taking longer is a hang (default 10)")
+  monkey
+      ->add_option("--hang-seconds", monkey_opts.hang_seconds,
+                   "a step taking longer is a hang (default 10)")
       ->check(CLI::Range(1, 3600));
-  monkey->add_option("--batch", monkey_opts.batch,
-                     "ids run in one child process; a failing batch runs again an id a child "
-                     "(default 50)")
+  monkey
+      ->add_option("--batch", monkey_opts.batch,
+                   "ids run in one child process; a failing batch runs again an id a child "
+                   "(default 50)")
       ->check(CLI::Range(1, 100000));
   monkey->add_option("--machine", monkey_machine, "model file added to the default machine");
 
@@ -113,8 +116,9 @@ int main(int argc, char** argv) {
                    "only the first injection of each distinct point over all files");
   faults->add_option("--point", sweep_opts.point, "run only this point of one file, in process");
   faults->add_flag("--list", sweep_opts.list, "print the injection points, run nothing");
-  faults->add_option("--hang-seconds", sweep_opts.hang_seconds,
-                     "an input taking longer is a hang (default 10)")
+  faults
+      ->add_option("--hang-seconds", sweep_opts.hang_seconds,
+                   "an input taking longer is a hang (default 10)")
       ->check(CLI::Range(1, 3600));
   faults->add_option("--machine", sweep_machine, "model file added to the default machine");
 

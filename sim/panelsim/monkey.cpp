@@ -97,8 +97,8 @@ void apply(panel_runtime& rt, const step& s) {
 // keys.
 const std::vector<int>& key_pool() {
   static const std::vector<int> keys = [] {
-    std::vector<int> k = {38, 40, 41, 42, 43, 57, 58, 59, 60, 61, 81, 87,
-                          host::kKeyFlexLeft, host::kKeyFlexRight};
+    std::vector<int> k = {
+        38, 40, 41, 42, 43, 57, 58, 59, 60, 61, 81, 87, host::kKeyFlexLeft, host::kKeyFlexRight};
     for (int d = 45; d <= 54; ++d)
       k.push_back(d);
     for (int p = 62; p <= 85; ++p)
@@ -176,8 +176,8 @@ class stream {
         break;
       case 1044:  // hard key lock word
         out.push_back({{0, 2883, 2884},
-                       any_int({0, 0x80000001L, 0x40000001L, 0x20000000L, 0x8001ffffL,
-                                0x4001ffffL, 0x80000040L})});
+                       any_int({0, 0x80000001L, 0x40000001L, 0x20000000L, 0x8001ffffL, 0x4001ffffL,
+                                0x80000040L})});
         break;
       case 113:  // message lists of the copy (group 1058) and box print (1077) home screens
       case 117: {
@@ -190,8 +190,8 @@ class stream {
           out.push_back({{0, group, 1060, static_cast<unsigned long>(i), 1061},
                          num(pick(std::vector<long>{0, 1, 5, 12, 30, 61, 99, -1}))});
           if (below(2) == 0)
-            out.push_back({{0, group, 1060, static_cast<unsigned long>(i), 1062},
-                           any_int({0, 1, 7, 100})});
+            out.push_back(
+                {{0, group, 1060, static_cast<unsigned long>(i), 1062}, any_int({0, 1, 7, 100})});
         }
         break;
       }
@@ -364,10 +364,10 @@ std::string write_scenario(const run_plan& plan, const std::vector<step>& steps,
   if (failure.exit_code == kChildStackBound)
     text << "# The pages now open exceed the bound of " << o.stack_bound << ".\nshow\n";
   std::filesystem::create_directories(o.out_dir);
-  const std::string path = (std::filesystem::path(o.out_dir) /
-                            ("monkey-" + contents_name(plan.id) + "-" + std::to_string(o.seed) +
-                             ".scn"))
-                               .string();
+  const std::string path =
+      (std::filesystem::path(o.out_dir) /
+       ("monkey-" + contents_name(plan.id) + "-" + std::to_string(o.seed) + ".scn"))
+          .string();
   std::ofstream file(path);
   file << text.str();
   return file ? path : std::string();
@@ -446,8 +446,8 @@ int run_monkey(panel_runtime& rt, const monkey_options& o, std::ostream& out) {
           << r.what() << "\n";
       const std::vector<step> steps = cut_down(rt, plan, r, o);
       const std::string file = write_scenario(plan, steps, r, o);
-      out << "  cut down to " << steps.size() << " of " << plan.steps.size() << " steps: "
-          << (file.empty() ? "the scenario file could not be written" : file) << "\n";
+      out << "  cut down to " << steps.size() << " of " << plan.steps.size()
+          << " steps: " << (file.empty() ? "the scenario file could not be written" : file) << "\n";
     }
   }
   out << "monkey: seed " << o.seed << ", " << o.events << " events per id\n";

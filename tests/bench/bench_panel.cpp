@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
+#include "contents/dvc_pnl_ceh_contents_hdl_base.h"
 #include "contents/dvc_pnl_ceh_contents_id.h"
 #include "contents/dvc_pnl_ceh_contents_proc_factory.h"
-#include "contents/dvc_pnl_ceh_contents_hdl_base.h"
 #include "contents/dvc_pnl_ceh_event_proxy.h"
 #include "monkey.h"
 #include "orvanta/host/panel_host.h"

@@ -144,8 +144,8 @@ void plant_lock_leak() {
     for (unsigned long n : {0UL, 9UL, 9UL})
       key.dvc_pnl_cmm_add_key(n);
     dvc_pnl_cmm_value value;
-    const int node = dvc_pnl_cmm_command_mediator::dvc_pnl_cmm_instance().dvc_pnl_cmm_get_value(
-        key, value, 1);
+    const int node =
+        dvc_pnl_cmm_command_mediator::dvc_pnl_cmm_instance().dvc_pnl_cmm_get_value(key, value, 1);
     int mode = 0;
     const int entry =
         dvc_pnl_ceh_contents_hdl_get_int_from_dm_by_application(DVC_PNL_PDM_START_BOX_KIND, mode);
@@ -162,9 +162,11 @@ TEST_F(Harness, FaultSweepFindsTheLockThatAFailedReadLeaves) {
   o.files = {write("planted.scn",
                    "machine 0.9.9 = 1\n"
                    "dm app DVC_PNL_PDM_START_BOX_KIND = 1\n"
-                   "open " + std::to_string(kScriptedFirst) + "\n"
-                   "key enter\n"
-                   "expect top 1\n")};  // fails in a clean run too: expectations are not run
+                   "open " +
+                       std::to_string(kScriptedFirst) +
+                       "\n"
+                       "key enter\n"
+                       "expect top 1\n")};  // fails in a clean run too: expectations are not run
   std::ostringstream out;
   EXPECT_EQ(sim::run_faults(*rt, o, out), 1) << out.str();
   const std::string text = out.str();
@@ -187,8 +189,10 @@ TEST_F(Harness, FaultSweepPassesWhenTheScreenCopes) {
   };
   o.files = {write("copes.scn",
                    "dm app DVC_PNL_PDM_START_BOX_KIND = 1\n"
-                   "open " + std::to_string(kScriptedFirst) + "\n"
-                   "key enter\n")};
+                   "open " +
+                       std::to_string(kScriptedFirst) +
+                       "\n"
+                       "key enter\n")};
   std::ostringstream out;
   EXPECT_EQ(sim::run_faults(*rt, o, out), 0) << out.str();
   EXPECT_NE(out.str().find("0 failed"), std::string::npos) << out.str();
