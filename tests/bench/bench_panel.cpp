@@ -79,6 +79,13 @@ void quiet() {
   host::trace_sink::instance().set_level_limit(0);
 }
 
+// Closes the page as the framework closes it, and delivers what follows.
+void close_page(panel_runtime& rt, int id, int function) {
+  dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_get_instance()->dvc_pnl_ceh_remove_contents_in_page_stack(
+      id, function);
+  rt.drain();
+}
+
 // A list part of the top page filled with `rows` rows of a text and an icon each.
 dvu_pnl_gcp_list* fill_list(int id, int function, int rows) {
   dvu_pnl_gcp_list* list = nullptr;
@@ -143,14 +150,12 @@ void open_and_close(benchmark::State& state, int id) {
   const int base = base_screen_of(function);
   if (id != base)
     rt.open(base);
-  auto* proxy = dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_get_instance();
   for (auto _ : state) {
     if (!rt.open(id)) {
       state.SkipWithError("the screen does not open");
       break;
     }
-    proxy->dvc_pnl_ceh_remove_contents_in_page_stack(id, function);
-    rt.drain();
+    close_page(rt, id, function);
   }
 }
 
@@ -203,13 +208,7 @@ void BM_TimerDelivery(benchmark::State& state) {
     rt.wait(ticking_page::kPeriod);
   if (ticking_page::ticks != static_cast<long>(state.iterations()))
     state.SkipWithError("an expiry was not delivered");
-  rt.reset();
-  // The runtime's own wiring back, for the benchmarks that follow.
-  host::set_contents_creator(
-      [](int id, dvu_pnl_gcp_components* gui) -> dvc_pnl_ceh_contents_interface* {
-        return dvc_pnl_ceh_contents_proc_factory::dvc_pnl_ceh_get_instance()
-            ->dvc_pnl_ceh_create_contents_proc_class(id, gui);
-      });
+  // The next benchmark's runtime wires the library's factory in again.
 }
 BENCHMARK(BM_TimerDelivery);
 
@@ -220,7 +219,6 @@ void heap_of_screen(benchmark::State& state, int id) {
   quiet();
   const int function = area_function(id);
   rt.set_function(function);
-  auto* proxy = dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_get_instance();
   long long held = 0;
   long long left = 0;
   for (auto _ : state) {
@@ -229,8 +227,7 @@ void heap_of_screen(benchmark::State& state, int id) {
     const long long before = g_live_bytes.load();
     rt.open(id);
     held = g_live_bytes.load() - before;
-    proxy->dvc_pnl_ceh_remove_contents_in_page_stack(id, function);
-    rt.drain();
+    close_page(rt, id, function);
     host::devices().frames.clear();
     host::trace_sink::instance().clear();
     left = g_live_bytes.load() - before;
