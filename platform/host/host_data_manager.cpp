@@ -53,7 +53,7 @@ host_data_manager::host_data_manager() {
 bool host_data_manager::fault(dm_op op, const std::string& key) const {
   const int o = static_cast<int>(op);
   // Capped, so that a long interactive run does not grow it without end.
-  if (op == dm_op::get && read_keys_.size() < kReadKeysKept)
+  if (op == dm_op::get && log_reads_ && read_keys_.size() < kReadKeysKept)
     read_keys_.push_back(key);
   const std::size_t index = calls_[o]++;
   if (index == fail_at_[o])

@@ -228,6 +228,8 @@ int run_faults(panel_runtime& rt, const sweep_options& o, std::ostream& out) {
     out << "faults: bad model: " << error << "\n";
     return 2;
   }
+  // The points of data manager reads are named by their keys.
+  host::host_data_manager::instance().log_reads(true);
   std::set<std::tuple<int, int, std::string>> covered;
   int passed = 0;
   int failed = 0;

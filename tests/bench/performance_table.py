@@ -32,7 +32,7 @@ def fmt_time(v):
     return f"{v / 1000:.2f} ms"
 
 
-COUNTERS = ("frames_per_key", "heap_bytes", "left_bytes", "bytes_per_row", "items_per_second",
+COUNTERS = ("frames_per_key", "heap_bytes", "bytes_per_row", "items_per_second",
             "frames")
 
 

@@ -46,7 +46,12 @@ TEST_F(DmFaultCalls, OnlyTheNumberedReadFailsCountingFromTheReset) {
   }
 }
 
-TEST_F(DmFaultCalls, CountsCallsPerOperationAndKeepsTheKeysOfReads) {
+TEST_F(DmFaultCalls, CountsCallsPerOperationAndKeepsTheKeysOfReadsWhenAsked) {
+  read_four();
+  EXPECT_TRUE(dm.read_keys().empty()) << "reads are not logged unless asked";
+  dm.reset();
+  dm.log_reads(true);
+  SetUp();
   EXPECT_EQ(dm.call_count(dm_op::set), 2u);
   EXPECT_EQ(dm.call_count(dm_op::get), 0u);
   read_four();
@@ -56,15 +61,19 @@ TEST_F(DmFaultCalls, CountsCallsPerOperationAndKeepsTheKeysOfReads) {
   EXPECT_EQ(dm.read_keys(),
             (std::vector<std::string>{DVC_PNL_PDM_DVC_CEH_INTEGER, DVC_PNL_PDM_START_BOX_KIND,
                                       DVC_PNL_PDM_DVC_CEH_INTEGER, DVC_PNL_PDM_START_BOX_KIND}));
+  dm.log_reads(false);
 }
 
 TEST_F(DmFaultCalls, AResetDisarmsAndStartsCountingAgain) {
+  dm.log_reads(true);
+  read_four();
   dm.fail_call(dm_op::get, 0);
   dm.reset();
   SetUp();
   EXPECT_EQ(dm.call_count(dm_op::get), 0u);
   EXPECT_TRUE(dm.read_keys().empty());
   EXPECT_EQ(read_four(), (std::vector<int>{0, 0, 0, 0}));
+  dm.log_reads(false);
 }
 
 TEST_F(DmFaultCalls, AFailedSetOrRemoveChangesNothing) {

@@ -56,8 +56,10 @@ class host_data_manager final : public dvc_pnl_pdm_data_manager, public page_lis
   // The call of `op` numbered `index` (from 0, counted since the last reset) fails once; a fault
   // sweep arms the reads of a run one by one this way.
   void fail_call(dm_op op, std::size_t index);
-  // Calls of `op` since the last reset, and the keys of the first kReadKeysKept reads, in order.
+  // Calls of `op` since the last reset, and, while log_reads is on (off until asked; a reset keeps
+  // the setting), the keys of the first kReadKeysKept reads, in order.
   static constexpr std::size_t kReadKeysKept = 100000;
+  void log_reads(bool on) { log_reads_ = on; }
   std::size_t call_count(dm_op op) const { return calls_[static_cast<int>(op)]; }
   const std::vector<std::string>& read_keys() const { return read_keys_; }
 
@@ -84,6 +86,7 @@ class host_data_manager final : public dvc_pnl_pdm_data_manager, public page_lis
   std::size_t fail_at_[3] = {kNoCall, kNoCall, kNoCall};
   mutable std::size_t calls_[3] = {0, 0, 0};
   mutable std::vector<std::string> read_keys_;
+  bool log_reads_ = false;
 };
 
 }  // namespace orvanta::host
