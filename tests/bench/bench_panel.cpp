@@ -4,10 +4,7 @@
 // registers one open-and-close benchmark per screen class.
 #include <benchmark/benchmark.h>
 
-#include <atomic>
-#include <cstdlib>
 #include <map>
-#include <new>
 #include <string>
 #include <vector>
 
@@ -15,42 +12,13 @@
 #include "contents/dvc_pnl_ceh_contents_id.h"
 #include "contents/dvc_pnl_ceh_contents_proc_factory.h"
 #include "contents/dvc_pnl_ceh_event_proxy.h"
+#include "heap_count.h"
 #include "monkey.h"
 #include "orvanta/host/panel_host.h"
 #include "orvanta/host/trace_sink.h"
 #include "orvanta/machine/simulated_machine.h"
 #include "orvanta/sim/names.h"
 #include "orvanta/sim/panel_runtime.h"
-
-// ---- heap accounting: every allocation of the program goes through these ----
-
-namespace {
-std::atomic<long long> g_live_bytes{0};
-// The size sits in front of each block, so that delete knows what it frees.
-constexpr std::size_t kHeader = alignof(std::max_align_t);
-}  // namespace
-
-void* operator new(std::size_t size) {
-  void* block = std::malloc(size + kHeader);
-  if (block == nullptr)
-    throw std::bad_alloc();
-  *static_cast<std::size_t*>(block) = size;
-  g_live_bytes.fetch_add(static_cast<long long>(size), std::memory_order_relaxed);
-  return static_cast<char*>(block) + kHeader;
-}
-
-void operator delete(void* p) noexcept {
-  if (p == nullptr)
-    return;
-  void* block = static_cast<char*>(p) - kHeader;
-  g_live_bytes.fetch_sub(static_cast<long long>(*static_cast<std::size_t*>(block)),
-                         std::memory_order_relaxed);
-  std::free(block);
-}
-
-void operator delete(void* p, std::size_t) noexcept {
-  operator delete(p);
-}
 
 namespace orvanta::sim {
 namespace {
@@ -225,9 +193,9 @@ void heap_of_screen(benchmark::State& state, int id) {
     host::devices().frames.clear();
     host::trace_sink::instance().clear();
     machine::simulated_machine::instance().clear_log();
-    const long long before = g_live_bytes.load();
+    const long long before = live_heap_bytes();
     rt.open(id);
-    held = g_live_bytes.load() - before;
+    held = live_heap_bytes() - before;
     close_page(rt, id, function);
   }
   state.counters["heap_bytes"] = benchmark::Counter(static_cast<double>(held));
@@ -243,9 +211,9 @@ void BM_HeapOfListRows(benchmark::State& state) {
   long long held = 0;
   for (auto _ : state) {
     dvu_pnl_gcp_list* list = fill_list(id, rt.active_function(), 0);
-    const long long before = g_live_bytes.load();
+    const long long before = live_heap_bytes();
     fill_list(id, rt.active_function(), rows);
-    held = g_live_bytes.load() - before;
+    held = live_heap_bytes() - before;
     list->dvu_pnl_gcp_clear_all_row();
   }
   state.counters["heap_bytes"] = benchmark::Counter(static_cast<double>(held));
