@@ -58,7 +58,9 @@ def main(report_path, doc_path):
     lines.append(f"Taken {ctx.get('date', '?')} on {cpu_model()}, {ctx.get('num_cpus', '?')} cores "
                  f"at {ctx.get('mhz_per_cpu', '?')} MHz, {platform.system()} "
                  f"{platform.release()}; build `default` (RelWithDebInfo), "
-                 f"library build type {ctx.get('library_build_type', '?')}.")
+                 f"Google Benchmark library built as {ctx.get('library_build_type', '?')}; load average "
+                 f"{', '.join(f'{x:.2f}' for x in ctx.get('load_avg', []))} at the start (other "
+                 f"builds running on the machine slow the figures).")
     lines.append("")
     lines.append("| Benchmark | Time per iteration | Counters |")
     lines.append("|---|---|---|")
