@@ -50,8 +50,15 @@ host_data_manager::host_data_manager() {
   page_lifecycle::instance().add_listener(this);
 }
 
-bool host_data_manager::fault(dm_op op) const {
-  int& armed = armed_[static_cast<int>(op)];
+bool host_data_manager::fault(dm_op op, const std::string& key) const {
+  const int o = static_cast<int>(op);
+  // Capped, so that a long interactive run does not grow it without end.
+  if (op == dm_op::get && log_reads_ && read_keys_.size() < kReadKeysKept)
+    read_keys_.push_back(key);
+  const std::size_t index = calls_[o]++;
+  if (index == fail_at_[o])
+    return true;
+  int& armed = armed_[o];
   if (armed == 0)
     return false;
   armed = 0;
@@ -62,6 +69,10 @@ void host_data_manager::fail_next(dm_op op) {
   armed_[static_cast<int>(op)] = 1;
 }
 
+void host_data_manager::fail_call(dm_op op, std::size_t index) {
+  fail_at_[static_cast<int>(op)] = index;
+}
+
 void host_data_manager::reset() {
   page_.clear();
   function_.clear();
@@ -69,6 +80,11 @@ void host_data_manager::reset() {
   cross_.clear();
   for (int& a : armed_)
     a = 0;
+  for (std::size_t& f : fail_at_)
+    f = kNoCall;
+  for (std::size_t& c : calls_)
+    c = 0;
+  read_keys_.clear();
 }
 
 // ---- page scope ----
@@ -76,7 +92,7 @@ void host_data_manager::reset() {
 int host_data_manager::dvc_pnl_pdm_get_by_page_scope(const std::string& key, int function,
                                                      int contents_id,
                                                      dvc_pnl_cmm_value& value) const {
-  if (fault(dm_op::get))
+  if (fault(dm_op::get, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty() || !function_ok(function))
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -86,7 +102,7 @@ int host_data_manager::dvc_pnl_pdm_get_by_page_scope(const std::string& key, int
 int host_data_manager::dvc_pnl_pdm_set_by_page_scope(const std::string& key, int function,
                                                      int contents_id,
                                                      const dvc_pnl_cmm_value& value) {
-  if (fault(dm_op::set))
+  if (fault(dm_op::set, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty() || !function_ok(function))
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -95,7 +111,7 @@ int host_data_manager::dvc_pnl_pdm_set_by_page_scope(const std::string& key, int
 
 int host_data_manager::dvc_pnl_pdm_remove_by_page_scope(const std::string& key, int function,
                                                         int contents_id) {
-  if (fault(dm_op::remove))
+  if (fault(dm_op::remove, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty() || !function_ok(function))
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -106,7 +122,7 @@ int host_data_manager::dvc_pnl_pdm_remove_by_page_scope(const std::string& key, 
 
 int host_data_manager::dvc_pnl_pdm_get_by_function_scope(const std::string& key, int function,
                                                          dvc_pnl_cmm_value& value) const {
-  if (fault(dm_op::get))
+  if (fault(dm_op::get, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty() || !function_ok(function))
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -115,7 +131,7 @@ int host_data_manager::dvc_pnl_pdm_get_by_function_scope(const std::string& key,
 
 int host_data_manager::dvc_pnl_pdm_set_by_function_scope(const std::string& key, int function,
                                                          const dvc_pnl_cmm_value& value) {
-  if (fault(dm_op::set))
+  if (fault(dm_op::set, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty() || !function_ok(function))
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -123,7 +139,7 @@ int host_data_manager::dvc_pnl_pdm_set_by_function_scope(const std::string& key,
 }
 
 int host_data_manager::dvc_pnl_pdm_remove_by_function_scope(const std::string& key, int function) {
-  if (fault(dm_op::remove))
+  if (fault(dm_op::remove, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty() || !function_ok(function))
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -134,7 +150,7 @@ int host_data_manager::dvc_pnl_pdm_remove_by_function_scope(const std::string& k
 
 int host_data_manager::dvc_pnl_pdm_get_by_application_scope(const std::string& key,
                                                             dvc_pnl_cmm_value& value) const {
-  if (fault(dm_op::get))
+  if (fault(dm_op::get, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty())
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -143,7 +159,7 @@ int host_data_manager::dvc_pnl_pdm_get_by_application_scope(const std::string& k
 
 int host_data_manager::dvc_pnl_pdm_set_by_application_scope(const std::string& key,
                                                             const dvc_pnl_cmm_value& value) {
-  if (fault(dm_op::set))
+  if (fault(dm_op::set, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty())
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -151,7 +167,7 @@ int host_data_manager::dvc_pnl_pdm_set_by_application_scope(const std::string& k
 }
 
 int host_data_manager::dvc_pnl_pdm_remove_by_application_scope(const std::string& key) {
-  if (fault(dm_op::remove))
+  if (fault(dm_op::remove, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty())
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -163,7 +179,7 @@ int host_data_manager::dvc_pnl_pdm_remove_by_application_scope(const std::string
 int host_data_manager::dvc_pnl_pdm_get_by_cross_function_scope(const std::string& key,
                                                                int contents_id,
                                                                dvc_pnl_cmm_value& value) const {
-  if (fault(dm_op::get))
+  if (fault(dm_op::get, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty())
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -173,7 +189,7 @@ int host_data_manager::dvc_pnl_pdm_get_by_cross_function_scope(const std::string
 int host_data_manager::dvc_pnl_pdm_set_by_cross_function_scope(const std::string& key,
                                                                int contents_id,
                                                                const dvc_pnl_cmm_value& value) {
-  if (fault(dm_op::set))
+  if (fault(dm_op::set, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty())
     return DVC_PNL_CMM_BAD_ARGUMENT;
@@ -182,7 +198,7 @@ int host_data_manager::dvc_pnl_pdm_set_by_cross_function_scope(const std::string
 
 int host_data_manager::dvc_pnl_pdm_remove_by_cross_function_scope(const std::string& key,
                                                                   int contents_id) {
-  if (fault(dm_op::remove))
+  if (fault(dm_op::remove, key))
     return DVC_PNL_CMM_FAULT;
   if (key.empty())
     return DVC_PNL_CMM_BAD_ARGUMENT;

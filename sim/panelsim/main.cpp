@@ -6,6 +6,9 @@
 #include <vector>
 
 #include "commands.h"
+#include "fault_sweep.h"
+#include "monkey.h"
+#include "orvanta/sim/names.h"
 #include "orvanta/sim/scenario.h"
 
 using namespace orvanta::sim;
@@ -75,6 +78,50 @@ int main(int argc, char** argv) {
   CLI::Option* pbm_opt = shot->add_option("--pbm", pbm, "write a PBM file");
   png_opt->excludes(pbm_opt);
 
+  monkey_options monkey_opts;
+  std::vector<std::string> monkey_ids;
+  std::string monkey_machine;
+  CLI::App* monkey = app.add_subcommand(
+      "monkey",
+      "random keys, panel events and time on every screen; a failure is cut down to a "
+      "scenario file");
+  monkey->add_option("--seed", monkey_opts.seed, "seed of the random streams (default 1)");
+  monkey->add_option("--events", monkey_opts.events, "inputs per screen (default 50)")
+      ->check(CLI::Range(0, 1000000));
+  monkey->add_option("--id", monkey_ids, "only these contents ids (default: every routed id)");
+  monkey->add_option("--out", monkey_opts.out_dir,
+                     "folder for the scenario files of failures (default .)");
+  monkey
+      ->add_option("--stack-bound", monkey_opts.stack_bound,
+                   "open pages that count as runaway growth (default 24)")
+      ->check(CLI::Range(1, 100000));
+  monkey
+      ->add_option("--hang-seconds", monkey_opts.hang_seconds,
+                   "a step taking longer is a hang (default 10)")
+      ->check(CLI::Range(1, 3600));
+  monkey
+      ->add_option("--batch", monkey_opts.batch,
+                   "ids run in one child process; a failing batch runs again an id a child "
+                   "(default 50)")
+      ->check(CLI::Range(1, 100000));
+  monkey->add_option("--machine", monkey_machine, "model file added to the default machine");
+
+  sweep_options sweep_opts;
+  std::string sweep_machine;
+  CLI::App* faults = app.add_subcommand(
+      "faults",
+      "replay scenario files with each mediator call and data manager read failing in turn");
+  faults->add_option("FILE", sweep_opts.files, "scenario files")->required();
+  faults->add_flag("--cover", sweep_opts.cover,
+                   "only the first injection of each distinct point over all files");
+  faults->add_option("--point", sweep_opts.point, "run only this point of one file, in process");
+  faults->add_flag("--list", sweep_opts.list, "print the injection points, run nothing");
+  faults
+      ->add_option("--hang-seconds", sweep_opts.hang_seconds,
+                   "an input taking longer is a hang (default 10)")
+      ->check(CLI::Range(1, 3600));
+  faults->add_option("--machine", sweep_machine, "model file added to the default machine");
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp& e) {
@@ -97,6 +144,26 @@ int main(int argc, char** argv) {
         return kExitUsage;
       options.model = model;
       return run_scripts(files, options, junit, std::cout);
+    }
+    if (*monkey) {
+      if (!load_model_file(monkey_machine, model))
+        return kExitUsage;
+      monkey_opts.model = model;
+      for (const std::string& text : monkey_ids) {
+        const std::optional<int> id = parse_contents_id(text);
+        if (!id) {
+          std::cerr << "panelsim: unknown contents id " << text << "\n";
+          return kExitUsage;
+        }
+        monkey_opts.ids.push_back(*id);
+      }
+      return command_monkey(monkey_opts, std::cout);
+    }
+    if (*faults) {
+      if (!load_model_file(sweep_machine, model))
+        return kExitUsage;
+      sweep_opts.model = model;
+      return command_faults(sweep_opts, std::cout);
     }
     if (*info)
       return command_info(ids);

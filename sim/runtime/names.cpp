@@ -139,9 +139,12 @@ std::string class_of(int id) {
   // The constructor took the contents' lock for the framework to release.
   made->dvc_pnl_ceh_unlock();
   int status = 0;
+  // The dynamic type, read through a plain reference (clang warns of typeid on *made).
+  const dvc_pnl_ceh_contents_interface& object = *made;
+  const char* const raw = typeid(object).name();
   std::unique_ptr<char, void (*)(void*)> demangled(
-      abi::__cxa_demangle(typeid(*made).name(), nullptr, nullptr, &status), std::free);
-  std::string name = status == 0 && demangled ? demangled.get() : typeid(*made).name();
+      abi::__cxa_demangle(raw, nullptr, nullptr, &status), std::free);
+  std::string name = status == 0 && demangled ? demangled.get() : raw;
   constexpr std::string_view kPrefix = "dvc_pnl_ceh_contents_hdl_";
   if (auto pos = name.rfind("::"); pos != std::string::npos)
     name = name.substr(pos + 2);

@@ -106,19 +106,22 @@ void scenario_run::run_file(const std::string& path, const std::string& shown, i
       }
       execute(tokens, dir, depth);
       harvest();
-    } catch (const scenario_error& e) {
-      harvest();
-      throw line_failure{shown, number, trimmed, e.what()};
     } catch (const std::exception& e) {
       // Anything the layers below throw on odd input fails the line, not the program.
       harvest();
-      throw line_failure{shown, number, trimmed, e.what()};
+      line_failure failure{shown, number, trimmed, e.what()};
+      if (!options_.keep_going)
+        throw failure;
+      if (failed_lines_++ == 0)
+        first_failure_ = std::move(failure);
     }
   }
 }
 
 void scenario_run::execute(const std::vector<std::string>& t, const std::string& dir, int) {
   const std::string& cmd = t[0];
+  if (options_.skip_expectations && (cmd == "expect" || cmd == "show"))
+    return;
   if (cmd == "expect") {
     expect(t, dir);
   } else if (cmd == "show") {
@@ -382,6 +385,8 @@ void scenario_run::keyboard_command(const std::vector<std::string>& t) {
 
 void scenario_run::mark_input() {
   harvest();
+  if (options_.on_input)
+    options_.on_input();
   machine_mark_ = machine::simulated_machine::instance().log().size();
   opened_mark_ = rt_.opened().size();
   frame_mark_ = host::devices().frames.size();
@@ -422,8 +427,16 @@ file_outcome run_scenario_file(panel_runtime& runtime, const std::string& file,
   try {
     scenario_run run(runtime, options, out);
     run.run_file(file, file, 0);
-    outcome.passed = true;
-    outcome.report = "PASS " + file;
+    outcome.failed_lines = run.failed_lines();
+    outcome.passed = outcome.failed_lines == 0;
+    if (outcome.passed) {
+      outcome.report = "PASS " + file;
+    } else {
+      const line_failure& f = run.first_failure();
+      outcome.reason = f.message;
+      outcome.report = "FAIL " + f.file + ":" + std::to_string(f.line) + ": " + f.text + " -- " +
+                       f.message + " (" + std::to_string(outcome.failed_lines) + " lines failed)";
+    }
   } catch (const line_failure& f) {
     outcome.reason = f.message;
     outcome.report =

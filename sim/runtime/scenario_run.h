@@ -33,6 +33,9 @@ class scenario_run {
 
   // Runs the lines of `path` (`shown` is how reports name it). Throws line_failure.
   void run_file(const std::string& path, const std::string& shown, int depth);
+  // With keep_going: the lines that failed, the first of them in `first_failure`.
+  int failed_lines() const { return failed_lines_; }
+  const line_failure& first_failure() const { return first_failure_; }
 
  private:
   void execute(const std::vector<std::string>& tokens, const std::string& dir, int depth);
@@ -78,6 +81,9 @@ class scenario_run {
   std::size_t buzzer_seen_ = 0;
   std::size_t lockword_seen_ = 0;
   std::size_t trace_seen_ = 0;
+
+  int failed_lines_ = 0;
+  line_failure first_failure_;
 };
 
 // A contents id token, or a scenario_error.

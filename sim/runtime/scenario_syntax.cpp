@@ -59,6 +59,18 @@ std::string scenario_value::describe() const {
   return is_string ? "\"" + text + "\"" : std::to_string(number);
 }
 
+std::string scenario_value::written() const {
+  if (!is_string)
+    return std::to_string(number);
+  std::string out = "\"";
+  for (char c : text) {
+    if (c == '"' || c == '\\')
+      out += '\\';
+    out += c;
+  }
+  return out + "\"";
+}
+
 bool is_quoted(std::string_view token) {
   return token.size() >= 2 && token.front() == '"' && token.back() == '"';
 }

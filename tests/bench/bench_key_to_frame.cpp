@@ -21,7 +21,8 @@ class counter_page : public dvc_pnl_ceh_contents_hdl_base {
   void dvc_pnl_ceh_on_load() override { draw(); }
   int dvc_pnl_ceh_on_gui_button_notify(DVU_PNL_GCP_NOTIFY* /*notify*/) override {
     if (dvu_pnl_gcp_parts* part = dvu_pnl_gcp_get_gui_parts_by_id(gui_, kCounterPart))
-      part->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ICON, ++count_);
+      // Two icons in turn: an ever larger number would soon be clipped to the same pixels.
+      part->dvu_pnl_gcp_set_int_val(DVU_PNL_GCP_ATTR_ICON, 1 + (++count_ % 2));
     return 1;
   }
 

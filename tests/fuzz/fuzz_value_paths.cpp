@@ -33,7 +33,7 @@ constexpr unsigned long kAlphabet[] = {0,
                                        DVC_PNL_CEH_KEY_END,
                                        static_cast<unsigned long>(-2),
                                        0xffffffffUL,
-                                       0x1ffffffffUL};
+                                       static_cast<unsigned long>(0x1ffffffffULL)};
 constexpr std::size_t kAlphabetSize = sizeof kAlphabet / sizeof kAlphabet[0];
 // Whole paths into the seeded sets, loaded into the node array in one step.
 const char* const kPresets[] = {"0.938.959.1484",

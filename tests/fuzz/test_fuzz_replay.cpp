@@ -1,4 +1,4 @@
-// Replays the seed corpus of the value path fuzz target, so every build runs it once.
+// Replays the seed corpus of one fuzz target through its entry point, so every build runs it.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -23,7 +23,7 @@ std::vector<std::filesystem::path> corpus_files() {
   return files;
 }
 
-TEST(fuzz_replay, value_paths_corpus_runs_clean) {
+TEST(fuzz_replay, corpus_runs_clean) {
   const std::vector<std::filesystem::path> files = corpus_files();
   ASSERT_FALSE(files.empty()) << "no seed inputs in " << ORVANTA_FUZZ_CORPUS;
   for (const auto& file : files) {

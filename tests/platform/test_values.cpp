@@ -55,11 +55,13 @@ TEST_F(ValueTypes, ReadingAnotherKindFailsAndClearEmpties) {
 
 TEST_F(ValueTypes, LongKeepsThirtyTwoBitWordsUnsigned) {
   dvc_pnl_cmm_value v;
-  const long word = 0x8001ffffL;  // a lock word travels as its 32-bit pattern
+  // A lock word travels as its 32-bit pattern: unsigned in a 64-bit long, the same bits (a
+  // negative number) in a 32-bit one.
+  const long word = static_cast<long>(0x8001ffffUL);
   ASSERT_EQ(v.dvc_pnl_cmm_set_int(word), 0);
   long out = 0;
   ASSERT_EQ(v.dvc_pnl_cmm_get_int(out), 0);
-  EXPECT_EQ(out, 2147614719L);
+  EXPECT_EQ(static_cast<unsigned long>(out), 0x8001ffffUL);
 }
 
 TEST_F(ValueTypes, BinaryOwnsACopyOfTheBytes) {

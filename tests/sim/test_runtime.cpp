@@ -147,7 +147,8 @@ TEST_F(Runtime, TopItemsListWhatThePartsShowWithResourcesResolved) {
   EXPECT_EQ(rt->top_items().front().text, "copy-icon");
   // Texts are the host's resource table, which the library reads too; it outlives resets.
   EXPECT_EQ(dvu_pnl_gcp_resource::get_text_resource(300), "Copy");
-  host::clear_text_resources();
+  // The compiled-in table back, not an empty one: later tests in this process draw with it.
+  host::restore_default_resources();
 }
 
 TEST_F(Runtime, TheRealClockFiresTimersWithoutBeingAsked) {

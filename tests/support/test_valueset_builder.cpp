@@ -35,8 +35,11 @@ class valueset_builder : public ::testing::Test {
 TEST_F(valueset_builder, key_of_parses_dotted_paths) {
   EXPECT_EQ(key_of("0.896.901").nodes(), (std::vector<unsigned long>{0, 896, 901}));
   EXPECT_EQ(key_of("7").nodes(), (std::vector<unsigned long>{7}));
-  EXPECT_EQ(nodes_of("0.4294967295.18446744073709551615"),
-            (std::vector<unsigned long>{0, 4294967295UL, 18446744073709551615UL}));
+  if constexpr (sizeof(unsigned long) > 4) {
+    EXPECT_EQ(nodes_of("0.4294967295.18446744073709551615"),
+              (std::vector<unsigned long>{0, 4294967295UL,
+                                          static_cast<unsigned long>(18446744073709551615ULL)}));
+  }
 }
 
 TEST_F(valueset_builder, key_of_refuses_what_is_not_a_dotted_path) {

@@ -145,7 +145,7 @@ TEST_F(PollingLed, FollowsThePollingSettingOfTheSendFunction) {
 
   machine().set_int("0.1.161.160.203.204", 1);
   dvc_pnl_ceh_contents_hdl_color_led_on_off_except_pattern(3);
-  EXPECT_EQ(std::vector<long>{0x80000001L}, led_words());
+  EXPECT_EQ(std::vector<long>{static_cast<long>(0x80000001UL)}, led_words());
   EXPECT_EQ(1, record().polling);
   dvc_pnl_ceh_contents_hdl_color_led_on_off_except_pattern(3);
   EXPECT_TRUE(led_words().empty()) << "no change, no word";

@@ -80,7 +80,9 @@ TEST_F(PanelEvents, AllKeysAndNoKeysAreTranslatedToLockAndUnlockWords) {
   // Any other word goes out as it is; a word with the high bit set arrives as its 32-bit pattern.
   lock_word(static_cast<long>(kLock | kStart));
   lock_word(-2147483648L | kStop);  // the same lock bit, as a sign-extended int would carry it
-  EXPECT_EQ((std::vector<long>{0x80000800L, 0x80000400L}), words());
+  // As a long holds the pattern: negative where long has 32 bits.
+  EXPECT_EQ((std::vector<long>{static_cast<long>(0x80000800UL), static_cast<long>(0x80000400UL)}),
+            words());
 }
 
 TEST_F(PanelEvents, CountsFollowLocksUnlocksAndClears) {
@@ -139,8 +141,9 @@ TEST_F(PanelEvents, LedWordsCarryTheFunctionAndAreNotCounted) {
   ASSERT_EQ(1u, events.size());
   EXPECT_EQ(1044, events[0].dvc_pnl_evh_get_id());
   EXPECT_EQ(1, events[0].dvc_pnl_evh_get_init_type());
-  EXPECT_TRUE(sets_equal(events[0].source(),
-                         make_valueset({{"0.2883.2898", 0x80000001L}, {"0.2883.1035", 3L}}, 2)));
+  EXPECT_TRUE(sets_equal(
+      events[0].source(),
+      make_valueset({{"0.2883.2898", static_cast<long>(0x80000001UL)}, {"0.2883.1035", 3L}}, 2)));
   EXPECT_EQ(0u, count(DVC_PNL_CMN_ENUM_HARDKEY_TYPE_CHANGE_FUNCTION_KEY));
 }
 

@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 #include <tuple>
+#include <vector>
 
 #include "orvanta/host/page_lifecycle.h"
 #include "orvanta/platform/dvc_pnl_pdm_data_manager.h"
@@ -52,6 +53,15 @@ class host_data_manager final : public dvc_pnl_pdm_data_manager, public page_lis
   void reset();
   // The next call of `op` (any scope) fails once with a non-zero code.
   void fail_next(dm_op op);
+  // The call of `op` numbered `index` (from 0, counted since the last reset) fails once; a fault
+  // sweep arms the reads of a run one by one this way.
+  void fail_call(dm_op op, std::size_t index);
+  // Calls of `op` since the last reset, and, while log_reads is on (off until asked; a reset keeps
+  // the setting), the keys of the first kReadKeysKept reads, in order.
+  static constexpr std::size_t kReadKeysKept = 100000;
+  void log_reads(bool on) { log_reads_ = on; }
+  std::size_t call_count(dm_op op) const { return calls_[static_cast<int>(op)]; }
+  const std::vector<std::string>& read_keys() const { return read_keys_; }
 
   // Inspection for tests and the simulator.
   std::size_t page_entry_count(int function, int contents_id) const;
@@ -60,7 +70,8 @@ class host_data_manager final : public dvc_pnl_pdm_data_manager, public page_lis
 
  private:
   host_data_manager();
-  bool fault(dm_op op) const;
+  // Counts the call; true when it is the one armed to fail. Reads also log their key.
+  bool fault(dm_op op, const std::string& key) const;
 
   using page_addr = std::tuple<int, int, std::string>;  // function, contents id, key
   using function_addr = std::tuple<int, std::string>;   // function, key
@@ -70,6 +81,12 @@ class host_data_manager final : public dvc_pnl_pdm_data_manager, public page_lis
   std::map<std::string, dvc_pnl_cmm_value> application_;
   std::map<cross_addr, dvc_pnl_cmm_value> cross_;
   mutable int armed_[3] = {0, 0, 0};
+  // Index of the call to fail per operation; kNoCall when none is armed.
+  static constexpr std::size_t kNoCall = static_cast<std::size_t>(-1);
+  std::size_t fail_at_[3] = {kNoCall, kNoCall, kNoCall};
+  mutable std::size_t calls_[3] = {0, 0, 0};
+  mutable std::vector<std::string> read_keys_;
+  bool log_reads_ = false;
 };
 
 }  // namespace orvanta::host

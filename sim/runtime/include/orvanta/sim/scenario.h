@@ -1,6 +1,7 @@
 // Scenario files: runs them on a panel runtime and reports PASS or FAIL per file.
 #pragma once
 
+#include <functional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -13,6 +14,10 @@ struct script_options {
   std::string model;           // text of a model file added to the default model; empty: none
   bool verbose = false;        // print each line as it runs, and the trace
   bool update_frames = false;  // `expect frame` writes a missing or differing file
+  // For fault sweeps, where a file runs under injected failures:
+  bool keep_going = false;         // a failing line is counted and the file goes on
+  bool skip_expectations = false;  // `expect` and `show` lines are not run
+  std::function<void()> on_input;  // called as each input command starts, before it runs
 };
 
 struct file_outcome {
@@ -21,6 +26,7 @@ struct file_outcome {
   std::string report;  // "PASS <file>" or the FAIL line
   std::string reason;  // what failed, for reports
   double seconds = 0;
+  int failed_lines = 0;  // with keep_going: the lines that failed
 };
 
 // Runs one scenario file on `runtime`, which it resets first. Prints what -v asks for to `out`;

@@ -32,6 +32,9 @@ struct scenario_value {
   dvc_pnl_cmm_value to_cmm() const;
   // As written in messages: 5 or "text".
   std::string describe() const;
+  // As a scenario line writes it, which parse_value reads back: 5, or "text" with `"` and `\`
+  // escaped.
+  std::string written() const;
   bool operator==(const scenario_value& other) const = default;
 };
 
