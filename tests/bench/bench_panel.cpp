@@ -1,7 +1,7 @@
-// What a panel user feels, on the real screens: a key to a frame on the copy home screen and on a
-// list screen, opening and closing one screen of each class, building list rows, timer delivery,
-// and the heap a screen and a list of rows hold. Has the benchmark program's main, which
-// registers one open-and-close benchmark per screen class.
+// What a panel user feels, on the real screens: a key to a frame on the copy home screen and on an
+// option list, opening and closing one screen of each class, building list rows and the option
+// list table, timer delivery, and the heap a screen and a list of rows hold. Has the benchmark
+// program's main, which registers one open-and-close benchmark per screen class.
 #include <benchmark/benchmark.h>
 
 #include <map>
@@ -19,6 +19,7 @@
 #include "orvanta/machine/simulated_machine.h"
 #include "orvanta/sim/names.h"
 #include "orvanta/sim/panel_runtime.h"
+#include "screens/lists/dvc_pnl_ceh_contents_hdl_d_01_01_01.h"
 
 namespace orvanta::sim {
 namespace {
@@ -91,16 +92,14 @@ void BM_CopyHomeKeyToFrame(benchmark::State& state) {
 }
 BENCHMARK(BM_CopyHomeKeyToFrame);
 
-// The option list class has no behaviour yet: a screen of the list class that exists
-// (d_01_01_01) with 30 rows in its list part, the cursor moving down and up.
+// The paper size list of copy (26 rows) over the copy home screen, the cursor moving down and
+// up: each move sounds and redraws.
 void BM_ListKeyToFrame(benchmark::State& state) {
   panel_runtime rt;
   quiet();
-  const int id = first_id_of_each_class().at("d_01_01_01");
-  rt.set_function(area_function(id));
-  rt.open(base_screen_of(area_function(id)));
-  rt.open(id);
-  fill_list(id, rt.active_function(), 30);
+  rt.set_function(1);
+  rt.open(CID_01_01_N1);
+  rt.open(CID_02_08_01_N6);
   const std::size_t before = rt.frame_count();
   int n = 0;
   for (auto _ : state)
@@ -141,6 +140,22 @@ void BM_BuildListRows(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * rows);
 }
 BENCHMARK(BM_BuildListRows)->Arg(10)->Arg(100)->Arg(1000);
+
+// The option list table built from empty: every row of the class, as a long run would hold it
+// once every list was opened.
+void BM_BuildOptionListTable(benchmark::State& state) {
+  using list = dvc_pnl_ceh_contents_hdl_d_01_01_01;
+  std::size_t rows = 0;
+  for (auto _ : state) {
+    list::s_map_.reset();
+    for (int id = 0; id <= DVC_PNL_CEH_CONTENTS_ID_MAX; ++id)
+      list::s_map_.row_of(id, &list::build_row);
+    rows = list::s_map_.size();
+  }
+  state.counters["rows"] = benchmark::Counter(static_cast<double>(rows));
+  state.SetItemsProcessed(state.iterations() * static_cast<long>(rows));
+}
+BENCHMARK(BM_BuildOptionListTable);
 
 // A page whose timer restarts itself and draws on every expiry.
 class ticking_page : public dvc_pnl_ceh_contents_hdl_base {
