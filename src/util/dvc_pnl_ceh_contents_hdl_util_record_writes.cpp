@@ -401,8 +401,8 @@ PROXY_SETTING dvc_pnl_ceh_contents_hdl_get_proxy_from_cm() {
     CEH_ERR("dvc_pnl_ceh_contents_hdl_get_valueset_from_pnl_cmm ret_code = %d", ret);
     return setting;
   }
-  const auto field_key = [&group](unsigned long node) {
-    dvc_pnl_cmm_key key = record_writes::key_of(group);
+  const auto field_key = [](unsigned long node) {
+    dvc_pnl_cmm_key key = record_writes::key_of(record_writes::kProxyGroup);
     dvc_pnl_ceh_contents_hdl_add_key(key, node);
     return key;
   };
