@@ -180,6 +180,25 @@ struct simulated_machine::impl {
   std::map<std::pair<verb, std::string>, std::deque<int>> failures;
   std::map<std::string, std::deque<long>> result_failures;
   std::vector<call_record> log;
+  // A failure armed for one call by its number, whatever its verb and key: mediator calls are
+  // counted from the machine's start.
+  struct counted_failure {
+    std::size_t call;
+    bool result;  // RESULT `value` for an invoke, else the mediator answers `value`
+    long value;
+  };
+  std::optional<counted_failure> counted;
+  std::size_t calls = 0;
+
+  // Counts this call; answers the failure armed for it, if any.
+  std::optional<counted_failure> count_call() {
+    const std::size_t n = calls++;
+    if (!counted || counted->call != n)
+      return std::nullopt;
+    std::optional<counted_failure> f = counted;
+    counted.reset();
+    return f;
+  }
 
   const tree_node* find(const path& p) const {
     const tree_node* n = &top;
@@ -288,7 +307,10 @@ int simulated_machine::dvc_pnl_cmm_get_value(const dvc_pnl_cmm_key& key, dvc_pnl
   const host::value_fault_pause machine_work;
   const std::string dotted = key.to_dotted();
   call_record rec{verb::get, dotted, {}, {}, 0};
-  if (std::optional<int> code = impl_->take_failure(verb::get, dotted)) {
+  const std::optional<impl::counted_failure> counted = impl_->count_call();
+  if (counted && !counted->result) {
+    rec.result = static_cast<int>(counted->value);
+  } else if (std::optional<int> code = impl_->take_failure(verb::get, dotted)) {
     rec.result = *code;
   } else if (const tree_node* n = key.empty() ? nullptr : impl_->find(path_of(key))) {
     dvc_pnl_cmm_value read;
@@ -310,7 +332,10 @@ int simulated_machine::dvc_pnl_cmm_set_value(const dvc_pnl_cmm_key& key,
   const host::value_fault_pause machine_work;
   const std::string dotted = key.to_dotted();
   call_record rec{verb::set, dotted, wrapped(key, value), {}, 0};
-  if (std::optional<int> code = impl_->take_failure(verb::set, dotted)) {
+  const std::optional<impl::counted_failure> counted = impl_->count_call();
+  if (counted && !counted->result) {
+    rec.result = static_cast<int>(counted->value);
+  } else if (std::optional<int> code = impl_->take_failure(verb::set, dotted)) {
     rec.result = *code;
   } else if (key.empty() || key[0] != 0) {
     rec.result = kBadValue;
@@ -337,19 +362,30 @@ int simulated_machine::dvc_pnl_cmm_invoke(const dvc_pnl_cmm_key& command,
   call_record rec{verb::invoke, dotted, request, {}, 0};
   // Whether the machine answered into `response`; undelivered calls leave it untouched.
   bool answered = true;
-  if (std::optional<dvc_pnl_cmm_valueset> scripted = impl::take_next(impl_->scripts, dotted)) {
-    response = std::move(*scripted);
-  } else if (std::optional<int> code = impl_->take_failure(verb::invoke, dotted)) {
-    rec.result = *code;
-    answered = false;
-  } else if (std::optional<long> result = impl::take_next(impl_->result_failures, dotted)) {
+  const std::optional<impl::counted_failure> counted = impl_->count_call();
+  // A RESULT armed for this call: the response holds it alone.
+  const auto answer_result = [&](long result) {
     response.dvc_pnl_cmm_clear();
     path p = path_of(command);
     p.push_back(kResultNode);
     dvc_pnl_cmm_key key;
     rec.result = detail::make_key(p, key);
     if (rec.result == 0)
-      rec.result = response.dvc_pnl_cmm_set_int(key, *result);
+      rec.result = response.dvc_pnl_cmm_set_int(key, result);
+  };
+  if (counted && !counted->result) {
+    rec.result = static_cast<int>(counted->value);
+    answered = false;
+  } else if (counted) {
+    answer_result(counted->value);
+  } else if (std::optional<dvc_pnl_cmm_valueset> scripted =
+                 impl::take_next(impl_->scripts, dotted)) {
+    response = std::move(*scripted);
+  } else if (std::optional<int> code = impl_->take_failure(verb::invoke, dotted)) {
+    rec.result = *code;
+    answered = false;
+  } else if (std::optional<long> result = impl::take_next(impl_->result_failures, dotted)) {
+    answer_result(*result);
   } else if (auto s = impl_->services.find(dotted); s != impl_->services.end()) {
     response.dvc_pnl_cmm_clear();
     service_call call{command, request, response};
@@ -483,6 +519,16 @@ void simulated_machine::fail_next_result(const std::string& command, long result
   impl_->result_failures[detail::to_dotted(parse_or_throw(command))].push_back(result);
 }
 
+void simulated_machine::fail_call(std::size_t n, int code) {
+  std::lock_guard<std::recursive_mutex> guard(impl_->lock);
+  impl_->counted = impl::counted_failure{impl_->calls + n, false, code};
+}
+
+void simulated_machine::fail_call_result(std::size_t n, long result) {
+  std::lock_guard<std::recursive_mutex> guard(impl_->lock);
+  impl_->counted = impl::counted_failure{impl_->calls + n, true, result};
+}
+
 const std::vector<call_record>& simulated_machine::log() const {
   return impl_->log;
 }
@@ -501,6 +547,7 @@ void simulated_machine::reset() {
   impl_->scripts.clear();
   impl_->failures.clear();
   impl_->result_failures.clear();
+  impl_->counted.reset();
   impl_->log.clear();
   // The embedded model is part of the build: failing to read it is a defect, not a user error.
   const std::string error = load_model_json(detail::default_model_json(), true);

@@ -3,6 +3,7 @@
 #include "fault_sweep.h"
 
 #include <iostream>
+#include <optional>
 #include <set>
 #include <sstream>
 #include <tuple>
@@ -23,8 +24,9 @@ namespace {
 
 constexpr int kFunctionCount = 37;  // function ids 0 to 36
 constexpr int kMediatorFailure = 3;
-// A RESULT that no command answers for success.
-constexpr long kFailedResult = 1;
+// A RESULT that no command answers for success: success is 0 for most commands, 1 for some
+// (commit, registers, program call) and 3 for cancel.
+constexpr long kFailedResult = 2;
 // Closing a page may open another (an error screen, a parent); this many rounds end that.
 constexpr int kCloseRounds = 20;
 constexpr std::string_view kTimerLoopTrace = "timer loop stopped";
@@ -32,12 +34,14 @@ constexpr std::string_view kPostingLoopTrace = "posting loop";
 
 enum class fault_kind { mediator, result, dm_read };
 
-// One failure to inject: the mediator's answer `code` to the first call of (verb, key) in the
-// input numbered `input`, its RESULT for an invoke there, or the data manager read numbered
-// `read` (counted from the reset).
+// One failure to inject: the mediator's answer 3 to the call numbered `call` (counted from the
+// start of the input numbered `input`), a RESULT that is not success when that call is an invoke,
+// or the data manager read numbered `read` (counted from the reset). `verb` and `key` name the
+// call or the read as the clean run made it.
 struct injection {
   fault_kind kind = fault_kind::mediator;
   std::size_t input = 0;
+  std::size_t call = 0;
   machine::verb verb = machine::verb::get;
   std::string key;
   std::size_t read = 0;
@@ -51,13 +55,17 @@ struct injection {
     switch (kind) {
       case fault_kind::mediator:
         return std::string("mediator ") + verbs[static_cast<int>(verb)] + " " + key +
-               " answers 3 in input " + std::to_string(input + 1);
+               " answers 3 (" + where() + ")";
       case fault_kind::result:
-        return "invoke " + key + " answers RESULT 1 in input " + std::to_string(input + 1);
+        return "invoke " + key + " answers RESULT " + std::to_string(kFailedResult) + " (" +
+               where() + ")";
       case fault_kind::dm_read:
         return "data manager read " + std::to_string(read + 1) + " (" + key + ") fails";
     }
     return {};
+  }
+  std::string where() const {
+    return "call " + std::to_string(call + 1) + " of input " + std::to_string(input + 1);
   }
 };
 
@@ -104,19 +112,16 @@ std::vector<injection> points_of(const clean_run& c) {
   for (std::size_t in = 0; in < c.input_calls.size(); ++in) {
     const std::size_t from = c.input_calls[in];
     const std::size_t to = in + 1 < c.input_calls.size() ? c.input_calls[in + 1] : c.calls.size();
-    std::set<std::pair<int, std::string>> seen;
     for (std::size_t i = from; i < to; ++i) {
       const machine::call_record& call = c.calls[i];
-      if (!seen.insert({static_cast<int>(call.kind), call.key}).second)
-        continue;
-      out.push_back({fault_kind::mediator, in, call.kind, call.key, 0});
+      out.push_back({fault_kind::mediator, in, i - from, call.kind, call.key, 0});
       if (call.kind == machine::verb::invoke)
-        out.push_back({fault_kind::result, in, call.kind, call.key, 0});
+        out.push_back({fault_kind::result, in, i - from, call.kind, call.key, 0});
     }
   }
   if (c.any_input) {
     for (std::size_t r = c.first_input_read; r < c.reads.size(); ++r)
-      out.push_back({fault_kind::dm_read, 0, machine::verb::get, c.reads[r], r});
+      out.push_back({fault_kind::dm_read, 0, 0, machine::verb::get, c.reads[r], r});
   }
   return out;
 }
@@ -184,21 +189,30 @@ int run_point(panel_runtime& rt, const std::string& file, const injection* point
   host::host_data_manager& dm = host::host_data_manager::instance();
   script_options s = sweep_script_options(o);
   std::size_t input = 0;
+  std::optional<std::size_t> hit;  // where the armed call lands in the machine's log
   s.on_input = [&] {
     watchdog(o.hang_seconds);
+    if (point != nullptr && point->kind != fault_kind::dm_read && input == point->input)
+      hit = m.log().size() + point->call;
     if (point != nullptr) {
       if (point->kind == fault_kind::dm_read && input == 0)
         dm.fail_call(host::dm_op::get, point->read);
       if (point->kind == fault_kind::mediator && input == point->input)
-        m.fail_next(point->verb, point->key, kMediatorFailure);
+        m.fail_call(point->call, kMediatorFailure);
       if (point->kind == fault_kind::result && input == point->input)
-        m.fail_next_result(point->key, kFailedResult);
+        m.fail_call_result(point->call, kFailedResult);
     }
     ++input;
   };
   std::ostringstream output;
   watchdog(o.hang_seconds);
   run_scenario_file(rt, file, s, output);
+  // The same inputs make the same calls, so the armed call is the one the clean run named.
+  if (hit && (*hit >= m.log().size() || m.log()[*hit].key != point->key ||
+              m.log()[*hit].kind != point->verb)) {
+    std::cerr << "faults: " << point->describe() << " did not land on that call\n";
+    return kChildMissedPoint;
+  }
   const std::string text = output.str();
   if (text.find(kTimerLoopTrace) != std::string::npos)
     return kChildTimerLoop;

@@ -37,6 +37,8 @@ std::string child_result::what() const {
       return "a page in the stack does not answer";
     case kChildThrew:
       return "an exception left the panel";
+    case kChildMissedPoint:
+      return "the fault hit another call than the clean run made there: the run is not repeatable";
     default:
       return "crash or sanitizer report: exit code " + std::to_string(exit_code);
   }
@@ -94,7 +96,7 @@ child_result run_isolated(const std::function<int()>& body, bool quiet) {
   if (WIFEXITED(status)) {
     r.exit_code = WEXITSTATUS(status);
     r.ok = r.exit_code == 0;
-    r.crash = !r.ok && (r.exit_code < kChildTimerLoop || r.exit_code > kChildThrew);
+    r.crash = !r.ok && (r.exit_code < kChildTimerLoop || r.exit_code > kChildMissedPoint);
   } else if (WIFSIGNALED(status)) {
     r.signal = WTERMSIG(status);
     r.hang = r.signal == SIGALRM;

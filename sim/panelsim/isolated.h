@@ -15,6 +15,7 @@ inline constexpr int kChildStackBound = 72;   // more pages open than the bound 
 inline constexpr int kChildLockCount = 73;    // a hard key lock count outlived its screens
 inline constexpr int kChildDeadPage = 74;     // a page in the stack does not answer
 inline constexpr int kChildThrew = 75;        // an exception left the body
+inline constexpr int kChildMissedPoint = 76;  // a fault landed on another call than the clean run's
 
 struct child_result {
   bool ok = false;

@@ -406,6 +406,54 @@ TEST_F(SimulatedMachine, AnArmedResultIsAnsweredUnderTheCommandOnce) {
   EXPECT_EQ(response_int(response, "0.938.959.1592"), 5);
 }
 
+TEST_F(SimulatedMachine, ACountedFailureHitsOnlyTheCallOfItsNumberWhateverItsVerbAndKey) {
+  dvc_pnl_cmm_value value;
+  dvc_pnl_cmm_valueset response;
+  // Call 2 from now: a get and an invoke pass, the set that comes third fails.
+  machine().fail_call(2, 42);
+  EXPECT_EQ(get("0.555.2141.1890", value), 0);
+  EXPECT_EQ(invoke(kUsers, list_request(kUsers, 1, 1, 0), response), 0);
+  EXPECT_EQ(set("0.555.2141.1890", int_value(7)), 42);
+  EXPECT_EQ(machine().int_at("0.555.2141.1890"), 1L);
+  EXPECT_EQ(set("0.555.2141.1890", int_value(7)), 0);
+  EXPECT_EQ(machine().int_at("0.555.2141.1890"), 7L);
+
+  // It goes before a failure armed by key, which then answers the call after.
+  machine().fail_next(verb::get, "0.555.2141.1890", 8);
+  machine().fail_call(0);
+  EXPECT_EQ(get("0.555.2141.1890", value), kDefaultFailCode);
+  EXPECT_EQ(get("0.555.2141.1890", value), 8);
+  EXPECT_EQ(get("0.555.2141.1890", value), 0);
+
+  // Arming again replaces the armed call; a reset drops it.
+  machine().fail_call(0, 5);
+  machine().fail_call(1, 6);
+  EXPECT_EQ(get("0.555.2141.1890", value), 0);
+  EXPECT_EQ(get("0.555.2141.1890", value), 6);
+  machine().fail_call(0, 5);
+  machine().reset();
+  EXPECT_EQ(get("0.555.2141.1890", value), 0);
+}
+
+TEST_F(SimulatedMachine, ACountedResultAnswersAnInvokeAloneAndPassesOverOtherVerbs) {
+  // A get at that number is not an invoke: it answers normally and uses the failure up.
+  machine().fail_call_result(0, 17);
+  dvc_pnl_cmm_value value;
+  EXPECT_EQ(get("0.555.2141.1890", value), 0);
+  dvc_pnl_cmm_valueset response = make_valueset({{"0.1", 1L}});
+  ASSERT_EQ(invoke(kUsers, list_request(kUsers, 1, 10, 0), response), 0);
+  EXPECT_EQ(response_int(response, "0.938.959.1484"), 0);
+
+  // Before a scripted response for the same command, which answers the call after.
+  const dvc_pnl_cmm_valueset scripted = make_valueset({{"0.938.959.1484", 9L}});
+  machine().script_next_response(kUsers, scripted);
+  machine().fail_call_result(0, 17);
+  ASSERT_EQ(invoke(kUsers, list_request(kUsers, 1, 10, 0), response), 0);
+  EXPECT_TRUE(sets_equal(response, make_valueset({{"0.938.959.1484", 17L}})));
+  ASSERT_EQ(invoke(kUsers, list_request(kUsers, 1, 10, 0), response), 0);
+  EXPECT_TRUE(sets_equal(response, scripted));
+}
+
 // ---- fixed answers ----
 
 TEST_F(SimulatedMachine, AFixedAnswerAnswersItsEntriesUnderTheCommandEveryTime) {

@@ -170,13 +170,73 @@ TEST_F(Harness, FaultSweepFindsTheLockThatAFailedReadLeaves) {
   std::ostringstream out;
   EXPECT_EQ(sim::run_faults(*rt, o, out), 1) << out.str();
   const std::string text = out.str();
-  EXPECT_NE(text.find("(mediator get 0.9.9 answers 3 in input 2): a hard key lock count stayed"),
+  EXPECT_NE(text.find("(mediator get 0.9.9 answers 3 (call 1 of input 2)): a hard key lock count "
+                      "stayed"),
             std::string::npos)
       << text;
   EXPECT_NE(text.find("(DVC_PNL_PDM_START_BOX_KIND) fails): a hard key lock count stayed"),
             std::string::npos)
       << text;
   EXPECT_EQ(text.find("without injection"), std::string::npos) << text;
+}
+
+TEST_F(Harness, FaultSweepFailsEachCallOfARepeatedNodeInTurn) {
+  // Three reads of one node in one input; only a failure of the second leaves the lock.
+  scripted_screen::hooks()[kScriptedFirst].key = [](scripted_screen&, int) {
+    dvc_pnl_cmm_command_mediator& mediator = dvc_pnl_cmm_command_mediator::dvc_pnl_cmm_instance();
+    dvc_pnl_cmm_key key;
+    for (unsigned long n : {0UL, 9UL, 9UL})
+      key.dvc_pnl_cmm_add_key(n);
+    dvc_pnl_cmm_value value;
+    int second = 0;
+    for (int i = 0; i < 3; ++i) {
+      const int ret = mediator.dvc_pnl_cmm_get_value(key, value, 1);
+      if (i == 1)
+        second = ret;
+    }
+    if (second != 0)
+      dvc_pnl_ceh_contents_hdl_set_hardkey_lock(DVC_PNL_CMN_ENUM_HARDKEY_OPE_LOCK |
+                                                DVC_PNL_CMN_ENUM_HARDKEY_TYPE_CURSOR_KEY);
+    return 1;
+  };
+  sim::sweep_options o;
+  o.files = {write("repeated.scn",
+                   "machine 0.9.9 = 1\n"
+                   "open " +
+                       std::to_string(kScriptedFirst) +
+                       "\n"
+                       "key enter\n")};
+  std::ostringstream out;
+  EXPECT_EQ(sim::run_faults(*rt, o, out), 1) << out.str();
+  const std::string text = out.str();
+  EXPECT_NE(text.find("(mediator get 0.9.9 answers 3 (call 2 of input 2)): a hard key lock"),
+            std::string::npos)
+      << text;
+  EXPECT_EQ(text.find("(call 1 of input 2)): a"), std::string::npos) << text;
+  EXPECT_EQ(text.find("(call 3 of input 2)): a"), std::string::npos) << text;
+  EXPECT_NE(text.find("1 failed"), std::string::npos) << text;
+}
+
+TEST_F(Harness, FaultSweepNamesAPointThatLandsOnAnotherCall) {
+  // A screen whose calls depend on how often it ran before: the children, forked after the clean
+  // run, read another node than the clean run did at the same place.
+  scripted_screen::hooks()[kScriptedFirst].key = [](scripted_screen&, int) {
+    static int runs = 0;
+    dvc_pnl_cmm_key key;
+    for (unsigned long n : {0UL, 9UL, runs++ == 0 ? 9UL : 8UL})
+      key.dvc_pnl_cmm_add_key(n);
+    dvc_pnl_cmm_value value;
+    dvc_pnl_cmm_command_mediator::dvc_pnl_cmm_instance().dvc_pnl_cmm_get_value(key, value, 1);
+    return 1;
+  };
+  sim::sweep_options o;
+  o.files = {write("drifts.scn", "open " + std::to_string(kScriptedFirst) + "\nkey enter\n")};
+  std::ostringstream out;
+  EXPECT_EQ(sim::run_faults(*rt, o, out), 1) << out.str();
+  EXPECT_NE(out.str().find("(mediator get 0.9.9 answers 3 (call 1 of input 2)): the fault hit "
+                           "another call than the clean run made there"),
+            std::string::npos)
+      << out.str();
 }
 
 TEST_F(Harness, FaultSweepPassesWhenTheScreenCopes) {

@@ -110,6 +110,11 @@ class simulated_machine final : public dvc_pnl_cmm_command_mediator {
   void fail_next(verb kind, const std::string& key, int code = kDefaultFailCode);
   // The next invoke of `command` answers RESULT `result` (node 1484 under the command).
   void fail_next_result(const std::string& command, long result);
+  // Call number `n` from now on (0: the next), whatever its verb and key, answers `code`; or, when
+  // it is an invoke, RESULT `result`. One such call is armed at a time; arming again replaces it,
+  // and a reset drops it. It goes before the failures armed by key.
+  void fail_call(std::size_t n, int code = kDefaultFailCode);
+  void fail_call_result(std::size_t n, long result);
 
   // ---- the log ----
   const std::vector<call_record>& log() const;
