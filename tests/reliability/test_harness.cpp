@@ -52,6 +52,15 @@ class Harness : public SimFixture {
     return path;
   }
 
+  // Sweeps one file: the `setup` lines, the scripted screen opened, Enter pressed, then `after`.
+  int sweep_enter(const std::string& name, const std::string& setup, std::ostringstream& out,
+                  const std::string& after = "") {
+    sim::sweep_options o;
+    o.files = {
+        write(name, setup + "open " + std::to_string(kScriptedFirst) + "\nkey enter\n" + after)};
+    return sim::run_faults(*rt, o, out);
+  }
+
   static std::string read(const std::string& path) {
     std::ifstream in(path);
     std::ostringstream s;
@@ -158,17 +167,12 @@ void plant_lock_leak() {
 
 TEST_F(Harness, FaultSweepFindsTheLockThatAFailedReadLeaves) {
   plant_lock_leak();
-  sim::sweep_options o;
-  o.files = {write("planted.scn",
-                   "machine 0.9.9 = 1\n"
-                   "dm app DVC_PNL_PDM_START_BOX_KIND = 1\n"
-                   "open " +
-                       std::to_string(kScriptedFirst) +
-                       "\n"
-                       "key enter\n"
-                       "expect top 1\n")};  // fails in a clean run too: expectations are not run
   std::ostringstream out;
-  EXPECT_EQ(sim::run_faults(*rt, o, out), 1) << out.str();
+  // The expectation fails in a clean run too: under the sweep expectations are not run.
+  EXPECT_EQ(sweep_enter("planted.scn", "machine 0.9.9 = 1\ndm app DVC_PNL_PDM_START_BOX_KIND = 1\n",
+                        out, "expect top 1\n"),
+            1)
+      << out.str();
   const std::string text = out.str();
   EXPECT_NE(text.find("(mediator get 0.9.9 answers 3 (call 1 of input 2)): a hard key lock count "
                       "stayed"),
@@ -199,15 +203,8 @@ TEST_F(Harness, FaultSweepFailsEachCallOfARepeatedNodeInTurn) {
                                                 DVC_PNL_CMN_ENUM_HARDKEY_TYPE_CURSOR_KEY);
     return 1;
   };
-  sim::sweep_options o;
-  o.files = {write("repeated.scn",
-                   "machine 0.9.9 = 1\n"
-                   "open " +
-                       std::to_string(kScriptedFirst) +
-                       "\n"
-                       "key enter\n")};
   std::ostringstream out;
-  EXPECT_EQ(sim::run_faults(*rt, o, out), 1) << out.str();
+  EXPECT_EQ(sweep_enter("repeated.scn", "machine 0.9.9 = 1\n", out), 1) << out.str();
   const std::string text = out.str();
   EXPECT_NE(text.find("(mediator get 0.9.9 answers 3 (call 2 of input 2)): a hard key lock"),
             std::string::npos)
@@ -229,10 +226,8 @@ TEST_F(Harness, FaultSweepNamesAPointThatLandsOnAnotherCall) {
     dvc_pnl_cmm_command_mediator::dvc_pnl_cmm_instance().dvc_pnl_cmm_get_value(key, value, 1);
     return 1;
   };
-  sim::sweep_options o;
-  o.files = {write("drifts.scn", "open " + std::to_string(kScriptedFirst) + "\nkey enter\n")};
   std::ostringstream out;
-  EXPECT_EQ(sim::run_faults(*rt, o, out), 1) << out.str();
+  EXPECT_EQ(sweep_enter("drifts.scn", "", out), 1) << out.str();
   EXPECT_NE(out.str().find("(mediator get 0.9.9 answers 3 (call 1 of input 2)): the fault hit "
                            "another call than the clean run made there"),
             std::string::npos)
@@ -240,21 +235,15 @@ TEST_F(Harness, FaultSweepNamesAPointThatLandsOnAnotherCall) {
 }
 
 TEST_F(Harness, FaultSweepPassesWhenTheScreenCopes) {
-  sim::sweep_options o;
   // Reads that fail are shrugged off.
   scripted_screen::hooks()[kScriptedFirst].key = [](scripted_screen&, int) {
     int mode = 0;
     dvc_pnl_ceh_contents_hdl_get_int_from_dm_by_application(DVC_PNL_PDM_START_BOX_KIND, mode);
     return 1;
   };
-  o.files = {write("copes.scn",
-                   "dm app DVC_PNL_PDM_START_BOX_KIND = 1\n"
-                   "open " +
-                       std::to_string(kScriptedFirst) +
-                       "\n"
-                       "key enter\n")};
   std::ostringstream out;
-  EXPECT_EQ(sim::run_faults(*rt, o, out), 0) << out.str();
+  EXPECT_EQ(sweep_enter("copes.scn", "dm app DVC_PNL_PDM_START_BOX_KIND = 1\n", out), 0)
+      << out.str();
   EXPECT_NE(out.str().find("0 failed"), std::string::npos) << out.str();
 }
 
