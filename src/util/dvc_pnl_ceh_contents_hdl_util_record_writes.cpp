@@ -42,11 +42,11 @@ std::string text_of(const char (&field)[N]) {
 
 template <std::size_t N>
 void add_text(request_words& words, unsigned long node, const char (&field)[N]) {
-  words.push_back({node, text_of(field)});
+  words.emplace_back(node, text_of(field));
 }
 
 void add(request_words& words, unsigned long node, long value) {
-  words.push_back({node, value});
+  words.emplace_back(node, value);
 }
 
 dvc_pnl_cmm_key key_of(const path& nodes) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -11,6 +12,12 @@ namespace orvanta::record_writes {
 
 // One request word: the node below the command and its integer or text.
 struct request_word {
+  // Constructors, so that a word is built where it is stored: moving a temporary one made GCC's
+  // 32-bit optimiser warn about the string alternative it does not hold.
+  request_word(unsigned long n, long number) : node(n), value(std::in_place_index<0>, number) {}
+  request_word(unsigned long n, std::string text)
+      : node(n), value(std::in_place_index<1>, std::move(text)) {}
+
   unsigned long node;
   std::variant<long, std::string> value;
   friend bool operator==(const request_word&, const request_word&) = default;
