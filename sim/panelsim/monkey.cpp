@@ -166,8 +166,11 @@ class stream {
       case DVC_PNL_CEH_EVENT_TIMER:
         out.push_back({{0, DVC_PNL_CEH_NODE_TIMER_INFO, DVC_PNL_CEH_NODE_TIMER_HANDLE},
                        any_int({0, 1, 2, 3, 5, 10, 50})});
+        // An expiry carries the period its timer was started with, and the proxy restarts the
+        // timer with it: a period of 0 for a timer that runs with another would be a 0 ms loop
+        // no framework sends. Real 0 ms timers expire through the clock advances.
         out.push_back({{0, DVC_PNL_CEH_NODE_TIMER_INFO, DVC_PNL_CEH_NODE_TIMER_PERIOD},
-                       any_int({0, 100, 500, 1000})});
+                       any_int({100, 500, 1000})});
         break;
       case DVC_PNL_CEH_EVENT_USB_KEYBOARD:
         out.push_back({{0, host::kKeyboardCodeNode}, any_int({8, 13, 27, 48, 53, 65})});
