@@ -192,14 +192,13 @@ int run_point(panel_runtime& rt, const std::string& file, const injection* point
   std::optional<std::size_t> hit;  // where the armed call lands in the machine's log
   s.on_input = [&] {
     watchdog(o.hang_seconds);
-    if (point != nullptr && point->kind != fault_kind::dm_read && input == point->input)
+    if (point != nullptr && point->kind == fault_kind::dm_read && input == 0)
+      dm.fail_call(host::dm_op::get, point->read);
+    if (point != nullptr && point->kind != fault_kind::dm_read && input == point->input) {
       hit = m.log().size() + point->call;
-    if (point != nullptr) {
-      if (point->kind == fault_kind::dm_read && input == 0)
-        dm.fail_call(host::dm_op::get, point->read);
-      if (point->kind == fault_kind::mediator && input == point->input)
+      if (point->kind == fault_kind::mediator)
         m.fail_call(point->call, kMediatorFailure);
-      if (point->kind == fault_kind::result && input == point->input)
+      else
         m.fail_call_result(point->call, kFailedResult);
     }
     ++input;
