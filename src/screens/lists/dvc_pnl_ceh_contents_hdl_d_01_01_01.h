@@ -180,6 +180,9 @@ class dvc_pnl_ceh_contents_hdl_d_01_01_01 : public dvc_pnl_ceh_contents_hdl_base
   void open_address_book();
   void restore_address_book();
   void set_int_or_trace(const std::string& key, int value);
+  // A list notify sounds on a fresh press and answers the selected row in `index`; false for
+  // another notify.
+  bool take_list_notify(const DVU_PNL_GCP_NOTIFY* notify, int& index);
   static int verdict_event_of(int view_function);
 
   CONTENTS_ELEMENT* current_contents_ = nullptr;

@@ -561,13 +561,19 @@ int D::on_key_stop_common(dvc_pnl_evh_panel_event& /*event*/) {
 
 // ---------------------------------------------------------------- notifies
 
-int D::on_gui_list_notify_common(DVU_PNL_GCP_NOTIFY* notify) {
+bool D::take_list_notify(const DVU_PNL_GCP_NOTIFY* notify, int& index) {
   if (notify == nullptr || notify->type != DVU_PNL_GCP_NOTIFY_LIST)
-    return 0;
+    return false;
   if (notify->repeat_count < 1)
     buzzer(1);
-  int index = 0;
   view_of(*this)->dvc_pnl_ceh_get_list_select_row(index);
+  return true;
+}
+
+int D::on_gui_list_notify_common(DVU_PNL_GCP_NOTIFY* notify) {
+  int index = 0;
+  if (!take_list_notify(notify, index))
+    return 0;
   if (contents_id_ == CID_02_63_N1) {
     current_contents_->flexible_right = index_to_value(index) != 0 ? kBlankSkipKey : -1;
     view_of(*this)->dvc_pnl_ceh_update_view_flexiblekey(current_contents_->flexible_left,
@@ -578,12 +584,9 @@ int D::on_gui_list_notify_common(DVU_PNL_GCP_NOTIFY* notify) {
 }
 
 int D::on_gui_list_notify_02_36_01_N1(DVU_PNL_GCP_NOTIFY* notify) {
-  if (notify == nullptr || notify->type != DVU_PNL_GCP_NOTIFY_LIST)
-    return 0;
-  if (notify->repeat_count < 1)
-    buzzer(1);
   int index = 0;
-  view_of(*this)->dvc_pnl_ceh_get_list_select_row(index);
+  if (!take_list_notify(notify, index))
+    return 0;
   if (contents_id_ == CID_02_37_N1)
     current_contents_->flexible_right = index != 0 ? kDetailKey : -1;
   else
