@@ -49,6 +49,14 @@ void quiet() {
   host::trace_sink::instance().set_level_limit(0);
 }
 
+// Quiets the trace and makes the function of the id's area the active one; answers it.
+int enter_function_of(panel_runtime& rt, int id) {
+  quiet();
+  const int function = area_function(id);
+  rt.set_function(function);
+  return function;
+}
+
 // Closes the page as the framework closes it, and delivers what follows.
 void close_page(panel_runtime& rt, int id, int function) {
   dvc_pnl_ceh_event_proxy::dvc_pnl_ceh_get_instance()->dvc_pnl_ceh_remove_contents_in_page_stack(
@@ -112,9 +120,7 @@ BENCHMARK(BM_ListKeyToFrame);
 // Opens the class's first id over its function's base screen and closes it again.
 void open_and_close(benchmark::State& state, int id) {
   panel_runtime rt;
-  quiet();
-  const int function = area_function(id);
-  rt.set_function(function);
+  const int function = enter_function_of(rt, id);
   const int base = base_screen_of(function);
   if (id != base)
     rt.open(base);
@@ -130,9 +136,8 @@ void open_and_close(benchmark::State& state, int id) {
 // Rows built into a list part and drawn: the cost of showing a long list.
 void BM_BuildListRows(benchmark::State& state) {
   panel_runtime rt;
-  quiet();
   const int id = first_id_of_each_class().at("d_01_01_01");
-  rt.set_function(area_function(id));
+  enter_function_of(rt, id);
   rt.open(id);
   const int rows = static_cast<int>(state.range(0));
   for (auto _ : state)
@@ -200,9 +205,7 @@ BENCHMARK(BM_TimerDelivery);
 // simulated machine's log records of the calls it made while opening.
 void heap_of_screen(benchmark::State& state, int id) {
   panel_runtime rt;
-  quiet();
-  const int function = area_function(id);
-  rt.set_function(function);
+  const int function = enter_function_of(rt, id);
   long long held = 0;
   for (auto _ : state) {
     host::devices().frames.clear();
@@ -218,9 +221,8 @@ void heap_of_screen(benchmark::State& state, int id) {
 
 void BM_HeapOfListRows(benchmark::State& state) {
   panel_runtime rt;
-  quiet();
   const int id = first_id_of_each_class().at("d_01_01_01");
-  rt.set_function(area_function(id));
+  enter_function_of(rt, id);
   rt.open(id);
   const int rows = static_cast<int>(state.range(0));
   long long held = 0;
